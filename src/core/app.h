@@ -1,0 +1,36 @@
+#pragma once
+
+#include "accessor.h"
+#include "types.h"
+
+#include <QApplication>
+
+namespace vorkan
+{
+
+// The application object; it holds the patient record that the calculators share.
+class App : public QApplication
+{
+public:
+    App(int& argc, char** argv);
+
+    // Weight in kilograms and height in centimetres as last calculated; 0 until then.
+    Single poids = 0;
+    Single taille = 0;
+    // Kept in the record although no window uses them yet.
+    Int32 age = 0;
+    bool sexe = true;
+
+    // The program ends with its last window.
+    void Event_Open();
+
+    bool notify(QObject* receiver, QEvent* event) override;
+};
+
+// The one application object, from anywhere.
+VORKAN_ACCESSOR(App)
+
+// Shows an error that escaped a handler, once, and ends the program with a failure.
+void reportFatalError(const char* what);
+
+} // namespace vorkan

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "types.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+
+#include <functional>
+
+namespace vorkan
+{
+
+// What every control of a window can do beyond its Qt base.
+template<class Base> class RectControl : public Base
+{
+public:
+    using Base::Base;
+    // Paints the control now, before the handler goes on.
+    void Refresh(bool /*now*/ = true) { this->repaint(); }
+};
+
+// A one-line field. KeyDown runs before the field sees the key, so the text is still
+// the one from before the key, also for a key the field will refuse.
+class TextField : public RectControl<QLineEdit>
+{
+public:
+    explicit TextField(QWidget* parent);
+
+    // Up to that many digits and nothing else.
+    void setDigitMask(int digits);
+
+    std::function<bool(TextField&, const QString& key)> KeyDown;
+    std::function<void(TextField&, const QString& key)> KeyUp;
+    std::function<bool(TextField&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+// A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
+// shows one ampersand and no mnemonic. Where the platform's font is wider than the
+// one the layout was drawn with, the text is made smaller until it fits its box.
+class StaticText : public RectControl<QLabel>
+{
+public:
+    explicit StaticText(QWidget* parent);
+
+    QString text() const { return caption_; }
+    void setText(const QString& caption);
+
+    std::function<bool(StaticText&, Int32 x, Int32 y)> MouseDown;
+    std::function<void(StaticText&)> MouseExit;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fitToWidth();
+
+    QString caption_;
+    qreal designedPointSize_ = 0;
+    bool fitting_ = false;
+};
+
+// A button that never takes the keyboard focus.
+class BevelButton : public RectControl<QPushButton>
+{
+public:
+    explicit BevelButton(QWidget* parent);
+    std::function<void(BevelButton&)> Action;
+};
+
+class PushButton : public RectControl<QPushButton>
+{
+public:
+    explicit PushButton(QWidget* parent);
+    std::function<void(PushButton&)> Action;
+    std::function<void(PushButton&)> MouseExit;
+
+protected:
+    void leaveEvent(QEvent* event) override;
+};
+
+// A pop-up list; ListIndex is -1 while no row is chosen.
+class PopupMenu : public RectControl<QComboBox>
+{
+public:
+    explicit PopupMenu(QWidget* parent);
+    void AddRow(const QString& text) { addItem(text); }
+    int ListIndex() const { return currentIndex(); }
+    void setListIndex(int index) { setCurrentIndex(index); }
+    std::function<void(PopupMenu&)> Change;
+};
+
+class Slider : public RectControl<QSlider>
+{
+public:
+    explicit Slider(QWidget* parent);
+    std::function<void(Slider&)> ValueChanged;
+};
+
+class GroupBox : public RectControl<QGroupBox>
+{
+public:
+    using RectControl::RectControl;
+};
+
+} // namespace vorkan

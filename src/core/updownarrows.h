@@ -1,0 +1,44 @@
+#pragma once
+
+#include "types.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+namespace vorkan
+{
+
+// The little pair of arrows beside a stepped field: the style's spin-box buttons,
+// stepping once on a press and again and again while the button is held.
+class UpDownArrows : public QWidget
+{
+public:
+    explicit UpDownArrows(QWidget* parent);
+
+    std::function<void(UpDownArrows&)> Up;
+    std::function<void(UpDownArrows&)> Down;
+    std::function<bool(UpDownArrows&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
+
+    void Refresh(bool /*now*/ = true) { repaint(); }
+    QSize sizeHint() const override { return {13, 25}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    enum class Part { None, Up, Down };
+    Part partAt(QPoint at) const;
+    void step();
+    void stop();
+
+    Part pressed_ = Part::None;
+    QTimer repeat_;
+};
+
+} // namespace vorkan

@@ -1,0 +1,152 @@
+#include "window.h"
+
+#include "controlfactory.h"
+#include "platform.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
+
+namespace vorkan
+{
+
+namespace
+{
+
+QHash<QString, Window*>& implicitWindows()
+{
+    static QHash<QString, Window*> windows;
+    return windows;
+}
+
+} // namespace
+
+Window* ImplicitWindows::find(QStringView fullName)
+{
+    return implicitWindows().value(fullName.toString());
+}
+
+int ImplicitWindows::count()
+{
+    return static_cast<int>(implicitWindows().size());
+}
+
+void ImplicitWindows::add(QStringView fullName, Window* window)
+{
+    implicitWindows().insert(fullName.toString(), window);
+}
+
+void ImplicitWindows::remove(const Window* window)
+{
+    auto& windows = implicitWindows();
+    for (auto it = windows.begin(); it != windows.end();) {
+        if (it.value() == window)
+            it = windows.erase(it);
+        else
+            ++it;
+    }
+}
+
+Window::Window(const WindowProps& props)
+    : QWidget(nullptr, Qt::Window), props_(props), client_(new QWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    column->addWidget(client_);
+}
+
+Window::~Window()
+{
+    ImplicitWindows::remove(this);
+}
+
+void Window::build()
+{
+    Layout();
+    CreateControls();
+    AddMenuHandlers();
+    Event_Open();
+    show();
+}
+
+void Window::Layout()
+{
+    setWindowTitle(props_.title.toString());
+    setWindowFlag(Qt::WindowMaximizeButtonHint, props_.maximizeButton);
+    client_->setFixedSize(props_.width, props_.height);
+    const QRect area = availableScreenArea();
+    move(area.left() + (area.width() - props_.width) / 2,
+         area.top() + (area.height() - props_.height) / 2);
+}
+
+void Window::setMenuBar(QMenuBar* bar)
+{
+    layout()->setMenuBar(bar);
+}
+
+void Window::Show()
+{
+    show();
+    raise();
+    activateWindow();
+}
+
+void Window::Close()
+{
+    close();
+}
+
+void Window::closeEvent(QCloseEvent* event)
+{
+    Tooltip::windowClosing(this);
+    ImplicitWindows::remove(this);
+    Event_Close();
+    event->accept();
+}
+
+void Window::createControls(std::span<const LayoutRow> rows)
+{
+    for (const LayoutRow& row : rows) {
+        QWidget* parent =
+            row.props.inside.isEmpty() ? client_ : &control<QWidget>(row.props.inside);
+        QWidget* widget = makeControl(row, parent);
+        widget->setObjectName(row.name.toString());
+        if (row.kind != Kind::Line)
+            widget->setGeometry(row.geometry.translated(-parent->mapTo(client_, QPoint(0, 0))));
+        controls_.insert(row.name.toString(), widget);
+    }
+    applyTabOrder(rows);
+}
+
+// Focus moves through a parent's controls by their tab index, and into a container's
+// controls right after the container's own place.
+void Window::applyTabOrder(std::span<const LayoutRow> rows)
+{
+    std::vector<QWidget*> chain;
+    const auto visit = [&](auto&& self, QStringView parent) -> void {
+        std::vector<const LayoutRow*> level;
+        for (const LayoutRow& row : rows)
+            if (row.props.inside == parent)
+                level.push_back(&row);
+        std::stable_sort(level.begin(), level.end(), [](const LayoutRow* a, const LayoutRow* b) {
+            return unsigned(a->tab) < unsigned(b->tab);
+        });
+        for (const LayoutRow* row : level) {
+            QWidget* widget = controls_.value(row->name.toString());
+            if (widget->focusPolicy() & Qt::TabFocus)
+                chain.push_back(widget);
+            self(self, row->name);
+        }
+    };
+    visit(visit, QStringView());
+    for (size_t i = 1; i < chain.size(); ++i)
+        QWidget::setTabOrder(chain[i - 1], chain[i]);
+}
+
+} // namespace vorkan

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "layout.h"
+#include "nilobjectexception.h"
+
+#include <QHash>
+#include <QString>
+#include <QWidget>
+
+#include <span>
+
+class QMenuBar;
+
+namespace vorkan
+{
+
+// The fixed properties of a window class.
+struct WindowProps {
+    QStringView title;
+    int width; // of the client area, below any menu bar
+    int height;
+    bool maximizeButton = false;
+};
+
+// A top-level window of fixed size whose controls come from a layout table. It is
+// built in this order: Layout, CreateControls, AddMenuHandlers, Event_Open; closing
+// it destroys it.
+class Window : public QWidget
+{
+public:
+    ~Window() override;
+
+    void Show();
+    void Close();
+
+    int Left() const { return x(); }
+    int Top() const { return y(); }
+    void setLeft(int left) { move(left, y()); }
+    void setTop(int top) { move(x(), top); }
+    int Width() const { return props_.width; }
+    int Height() const { return props_.height; }
+
+    // The control of that name; throws NilObjectException when there is none of
+    // that name and class.
+    template<class Control> Control& control(QStringView name) const
+    {
+        auto* found = dynamic_cast<Control*>(controls_.value(name.toString()));
+        if (!found)
+            throw NilObjectException(u"no control " + name.toString() + u" in " + windowTitle());
+        return *found;
+    }
+
+protected:
+    explicit Window(const WindowProps& props);
+
+    // Applies the window's properties; calculators open centred on the main screen.
+    virtual void Layout();
+    virtual void CreateControls() = 0;
+    virtual void AddMenuHandlers() {}
+    virtual void Event_Open() {}
+    virtual void Event_Close() {}
+
+    void createControls(std::span<const LayoutRow> rows);
+    void setMenuBar(QMenuBar* bar);
+    QWidget& clientArea() const { return *client_; }
+
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    friend class ImplicitWindows;
+    void build();
+    void applyTabOrder(std::span<const LayoutRow> rows);
+
+    WindowProps props_;
+    QWidget* client_;
+    QHash<QString, QWidget*> controls_;
+};
+
+// One live window per class, found by the class's full name ("imc.imc"). A window is
+// registered before its Event_Open runs, so that a call from inside it returns the
+// window being built, and leaves the list when it closes.
+class ImplicitWindows
+{
+public:
+    template<class W> static W& instance()
+    {
+        if (Window* live = find(W::FullName))
+            return static_cast<W&>(*live);
+        auto* created = new W;
+        add(W::FullName, created);
+        created->build();
+        return *created;
+    }
+
+    static Window* find(QStringView fullName);
+    static int count();
+
+private:
+    friend class Window;
+    static void add(QStringView fullName, Window* window);
+    static void remove(const Window* window);
+};
+
+} // namespace vorkan

@@ -1,0 +1,68 @@
+"""A private X display for driving the real program as a user does."""
+
+import os
+import subprocess
+import time
+
+from Xlib import X, display, protocol
+
+
+class XSession:
+    """Starts Xvfb on a free display and offers the few things the tests need."""
+
+    def __init__(self, width=1280, height=800):
+        read_fd, write_fd = os.pipe()
+        self.xvfb = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_fd), "-screen", "0", f"{width}x{height}x24",
+             "-nolisten", "tcp"],
+            pass_fds=(write_fd,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write_fd)
+        with os.fdopen(read_fd) as pipe:
+            self.name = ":" + pipe.readline().strip()
+        self.env = dict(os.environ, DISPLAY=self.name, QT_QPA_PLATFORM="xcb")
+        self.env.pop("WAYLAND_DISPLAY", None)
+        self.dpy = display.Display(self.name)
+        self.root = self.dpy.screen().root
+
+    def close(self):
+        self.dpy.close()
+        self.xvfb.terminate()
+        self.xvfb.wait()
+
+    def xdotool(self, *args):
+        return subprocess.run(["xdotool", *args], env=self.env, check=True,
+                              capture_output=True, text=True).stdout
+
+    def windows_named(self, title):
+        out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"],
+                             env=self.env, capture_output=True, text=True).stdout
+        return [int(w) for w in out.split()]
+
+    def wait_for_window(self, title, timeout=20):
+        deadline = time.monotonic() + timeout
+        while time.monotonic() < deadline:
+            found = self.windows_named(title)
+            if found:
+                return found[0]
+            time.sleep(0.05)
+        raise AssertionError(f"no window titled {title!r} was mapped")
+
+    def geometry(self, window):
+        win = self.dpy.create_resource_object("window", window)
+        geo = win.get_geometry()
+        at = win.translate_coords(self.root, 0, 0)
+        return -at.x, -at.y, geo.width, geo.height
+
+    def pixels(self, x, y, width, height):
+        image = self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
+        return image.data
+
+    def close_window(self, window):
+        """Asks the window to close as a window manager does (WM_DELETE_WINDOW)."""
+        win = self.dpy.create_resource_object("window", window)
+        protocols = self.dpy.intern_atom("WM_PROTOCOLS")
+        delete = self.dpy.intern_atom("WM_DELETE_WINDOW")
+        event = protocol.event.ClientMessage(window=win, client_type=protocols,
+                                             data=(32, [delete, X.CurrentTime, 0, 0, 0]))
+        win.send_event(event)
+        self.dpy.flush()
