@@ -1,10 +1,11 @@
 #!/usr/bin/python3
 """Takes a picture of one window of the real program under a private Xvfb.
 
-Usage: scripts/screenshot.py BINARY TITLE OUT.png [xdotool-args ...]
+Usage: scripts/screenshot.py [--pad N] BINARY TITLE OUT.png [xdotool-args ...]
 Each extra argument is one xdotool command line, run before the picture, with
 {window} standing for the window id, for example "key ctrl+a" or "type 180".
-Needs imagemagick's import.
+With --pad N the picture is taken from the screen, N pixels around the window, so
+that open menus and tips show too. Needs imagemagick's import.
 """
 
 import os
@@ -16,9 +17,13 @@ sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e")
 from xsession import XSession  # noqa: E402
 
 
-def main(binary, title, out, *actions):
+def main(*args):
+    pad = None
+    if args[0] == "--pad":
+        pad, args = int(args[1]), args[2:]
+    binary, title, out, *actions = args
     session = XSession()
-    program = subprocess.Popen([binary], env=session.env)
+    session.start(binary)
     try:
         window = session.wait_for_window(title)
         time.sleep(0.5)
@@ -26,9 +31,14 @@ def main(binary, title, out, *actions):
             session.xdotool(*action.format(window=window).split())
             time.sleep(0.2)
         time.sleep(0.5)
-        subprocess.run(["import", "-window", str(window), out], env=session.env, check=True)
+        if pad is None:
+            subprocess.run(["import", "-window", str(window), out], env=session.env, check=True)
+        else:
+            x, y, width, height = session.geometry(window)
+            crop = f"{width + 2 * pad}x{height + 2 * pad}+{max(0, x - pad)}+{max(0, y - pad)}"
+            subprocess.run(["import", "-window", "root", "-crop", crop, out], env=session.env,
+                           check=True)
     finally:
-        program.kill()
         session.close()
 
 

@@ -1,26 +1,16 @@
-#include "calculators/imc.h"
 #include "core/app.h"
+#include "launcher/startup.h"
 
 #include <cstdio>
 #include <exception>
 
 using namespace vorkan;
 
-namespace
-{
-
-// Builds the window the program opens on.
-void makeDefaultView()
-{
-    imc();
-}
-
-} // namespace
-
 int main(int argc, char* argv[])
 {
     try {
         class App app(argc, argv);
+        newAppInstance(app);
         app.Event_Open();
         makeDefaultView();
         return app.exec();

@@ -4,8 +4,7 @@
 #include <QLocale>
 #include <QWheelEvent>
 
-namespace vorkan::test
-{
+namespace vorkan::test {
 
 void closeAllWindows()
 {

@@ -2,11 +2,11 @@
 
 #include "core/app.h"
 #include "core/window.h"
+#include "launcher/startup.h"
 
 #include <QTest>
 
-namespace vorkan::test
-{
+namespace vorkan::test {
 
 // Closes every window and lets Qt delete them, so that each test starts from nothing.
 void closeAllWindows();
@@ -30,6 +30,7 @@ void useLocale(QLocale::Language language);
     int main(int argc, char** argv)                                                                \
     {                                                                                              \
         class vorkan::App app(argc, argv);                                                         \
+        vorkan::newAppInstance(app);                                                               \
         app.setQuitOnLastWindowClosed(false);                                                      \
         TestClass test;                                                                            \
         return QTest::qExec(&test, argc, argv);                                                    \

@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 using namespace vorkan;
 using namespace vorkan::test;
 
-class TestImc : public QObject
-{
+class TestImc : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:

@@ -8,8 +8,7 @@
 using namespace Qt::StringLiterals;
 using namespace vorkan;
 
-class TestTextOps : public QObject
-{
+class TestTextOps : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:

@@ -7,12 +7,10 @@ using namespace Qt::StringLiterals;
 using namespace vorkan;
 using namespace vorkan::test;
 
-namespace
-{
+namespace {
 
 // A window whose opening asks for itself through its accessor, as the main window does.
-class probe : public Window
-{
+class probe : public Window {
 public:
     static constexpr QStringView FullName = u"probe.probe";
     Window* seenWhileOpening = nullptr;
@@ -52,8 +50,7 @@ void probe::Event_Open()
 
 } // namespace
 
-class TestWindows : public QObject
-{
+class TestWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:

@@ -9,11 +9,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 constexpr WindowProps props{u"IMC", 532, 313};
 

@@ -3,13 +3,11 @@
 #include "core/accessor.h"
 #include "steppedfields.h"
 
-namespace vorkan
-{
+namespace vorkan {
 
 // Body mass index: the index and its class, the weight bands for the height, and the
 // ideal and lean weights. Each calculation stores height and weight in the record.
-class imc : public SteppedWindow
-{
+class imc : public SteppedWindow {
 public:
     static constexpr QStringView FullName = u"imc.imc";
 

@@ -4,8 +4,7 @@
 #include "core/textops.h"
 #include "core/updownarrows.h"
 
-namespace vorkan
-{
+namespace vorkan {
 
 void SteppedWindow::augmente(TextField& field, Int32 limit)
 {

@@ -3,15 +3,13 @@
 #include "core/types.h"
 #include "core/window.h"
 
-namespace vorkan
-{
+namespace vorkan {
 
 class TextField;
 
 // A window with height and weight fields that the up and down keys, the wheel and
 // the arrows beside them step by one, each step held at its own limit.
-class SteppedWindow : public Window
-{
+class SteppedWindow : public Window {
 protected:
     using Window::Window;
 

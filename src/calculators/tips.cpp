@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
 void showTip(const QString& text)
 {

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // Shows a help tip with its corner 10 pixels right of and below the pointer.
 void showTip(const QString& text);

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
 App::App(int& argc, char** argv) : QApplication(argc, argv)
 {

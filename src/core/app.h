@@ -5,12 +5,10 @@
 
 #include <QApplication>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The application object; it holds the patient record that the calculators share.
-class App : public QApplication
-{
+class App : public QApplication {
 public:
     App(int& argc, char** argv);
 
@@ -20,6 +18,9 @@ public:
     // Kept in the record although no window uses them yet.
     Int32 age = 0;
     bool sexe = true;
+
+    // The menus of every window that has none of its own.
+    const class MenuBar* MenuBar = nullptr;
 
     // The program ends with its last window.
     void Event_Open();

@@ -4,11 +4,9 @@
 #include "shapes.h"
 #include "updownarrows.h"
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 void applyFont(QWidget& widget, const ControlProps& props)
 {

@@ -4,8 +4,7 @@
 
 class QWidget;
 
-namespace vorkan
-{
+namespace vorkan {
 
 // Creates the control a layout row describes, with all its properties but its place.
 QWidget* makeControl(const LayoutRow& row, QWidget* parent);

@@ -9,11 +9,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 // The key as the handlers see it: Return (also the keypad's Enter), Backspace and
 // the up and down keys as their control characters, anything else as typed.

@@ -11,12 +11,10 @@
 
 #include <functional>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // What every control of a window can do beyond its Qt base.
-template<class Base> class RectControl : public Base
-{
+template<class Base> class RectControl : public Base {
 public:
     using Base::Base;
     // Paints the control now, before the handler goes on.
@@ -25,8 +23,7 @@ public:
 
 // A one-line field. KeyDown runs before the field sees the key, so the text is still
 // the one from before the key, also for a key the field will refuse.
-class TextField : public RectControl<QLineEdit>
-{
+class TextField : public RectControl<QLineEdit> {
 public:
     explicit TextField(QWidget* parent);
 
@@ -46,8 +43,7 @@ protected:
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
 // shows one ampersand and no mnemonic. Where the platform's font is wider than the
 // one the layout was drawn with, the text is made smaller until it fits its box.
-class StaticText : public RectControl<QLabel>
-{
+class StaticText : public RectControl<QLabel> {
 public:
     explicit StaticText(QWidget* parent);
 
@@ -72,15 +68,13 @@ private:
 };
 
 // A button that never takes the keyboard focus.
-class BevelButton : public RectControl<QPushButton>
-{
+class BevelButton : public RectControl<QPushButton> {
 public:
     explicit BevelButton(QWidget* parent);
     std::function<void(BevelButton&)> Action;
 };
 
-class PushButton : public RectControl<QPushButton>
-{
+class PushButton : public RectControl<QPushButton> {
 public:
     explicit PushButton(QWidget* parent);
     std::function<void(PushButton&)> Action;
@@ -91,8 +85,7 @@ protected:
 };
 
 // A pop-up list; ListIndex is -1 while no row is chosen.
-class PopupMenu : public RectControl<QComboBox>
-{
+class PopupMenu : public RectControl<QComboBox> {
 public:
     explicit PopupMenu(QWidget* parent);
     void AddRow(const QString& text) { addItem(text); }
@@ -101,15 +94,13 @@ public:
     std::function<void(PopupMenu&)> Change;
 };
 
-class Slider : public RectControl<QSlider>
-{
+class Slider : public RectControl<QSlider> {
 public:
     explicit Slider(QWidget* parent);
     std::function<void(Slider&)> ValueChanged;
 };
 
-class GroupBox : public RectControl<QGroupBox>
-{
+class GroupBox : public RectControl<QGroupBox> {
 public:
     using RectControl::RectControl;
 };

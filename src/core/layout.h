@@ -5,8 +5,7 @@
 #include <QRgb>
 #include <QStringView>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The control classes a layout row can create.
 enum class Kind {

@@ -17,11 +17,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 QPointer<QWidget> tipOwner;
 
@@ -39,8 +37,7 @@ constexpr int tipDisplayMs = 10 * 60 * 1000;
 
 } // namespace
 
-namespace Tooltip
-{
+namespace Tooltip {
 
 void Show(const QString& text, Int32 x, Int32 y, bool /*persistent*/)
 {
@@ -65,8 +62,7 @@ void windowClosing(const QWidget* window)
 
 } // namespace Tooltip
 
-namespace System
-{
+namespace System {
 
 Int32 MouseX()
 {
@@ -80,8 +76,7 @@ Int32 MouseY()
 
 } // namespace System
 
-namespace Clipboard
-{
+namespace Clipboard {
 
 void setText(const QString& text)
 {

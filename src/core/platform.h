@@ -8,14 +8,12 @@
 
 class QWidget;
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The desktop services the windows use, kept in one place so that each is done
 // the same way everywhere and can be watched by the tests.
 
-namespace Tooltip
-{
+namespace Tooltip {
 // Shows one tip at a time, with its top left corner at (x, y) on the screen.
 void Show(const QString& text, Int32 x, Int32 y, bool persistent);
 void Hide();
@@ -23,14 +21,12 @@ void Hide();
 void windowClosing(const QWidget* window);
 } // namespace Tooltip
 
-namespace System
-{
+namespace System {
 Int32 MouseX();
 Int32 MouseY();
 } // namespace System
 
-namespace Clipboard
-{
+namespace Clipboard {
 void setText(const QString& text);
 }
 

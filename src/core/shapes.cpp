@@ -5,15 +5,13 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace vorkan
-{
+namespace vorkan {
 
 Rectangle::Rectangle(QWidget* parent, QColor fill, QColor topLeft, QColor bottomRight,
                      int borderWidth)
     : QWidget(parent), fill_(fill), topLeft_(topLeft), bottomRight_(bottomRight),
       borderWidth_(borderWidth)
-{
-}
+{}
 
 void Rectangle::paintEvent(QPaintEvent*)
 {
@@ -29,8 +27,7 @@ void Rectangle::paintEvent(QPaintEvent*)
 RoundRectangle::RoundRectangle(QWidget* parent, QColor fill, QColor border, int borderWidth,
                                QSize oval)
     : QWidget(parent), fill_(fill), border_(border), borderWidth_(borderWidth), oval_(oval)
-{
-}
+{}
 
 void RoundRectangle::paintEvent(QPaintEvent*)
 {

@@ -4,12 +4,10 @@
 #include <QLine>
 #include <QWidget>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // Filled rectangle with a border whose top-left and bottom-right edges may differ.
-class Rectangle : public QWidget
-{
+class Rectangle : public QWidget {
 public:
     Rectangle(QWidget* parent, QColor fill, QColor topLeft, QColor bottomRight, int borderWidth);
 
@@ -21,8 +19,7 @@ private:
     int borderWidth_;
 };
 
-class RoundRectangle : public QWidget
-{
+class RoundRectangle : public QWidget {
 public:
     RoundRectangle(QWidget* parent, QColor fill, QColor border, int borderWidth, QSize oval);
 
@@ -36,8 +33,7 @@ private:
 };
 
 // A straight line between two points of its parent; it takes no mouse events.
-class Line : public QWidget
-{
+class Line : public QWidget {
 public:
     Line(QWidget* parent, QLine line, QColor color, int width);
 
@@ -51,8 +47,7 @@ private:
 };
 
 // A vertical divider in a status bar.
-class Separator : public QWidget
-{
+class Separator : public QWidget {
 public:
     explicit Separator(QWidget* parent);
 

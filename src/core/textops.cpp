@@ -10,11 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 const QString notFinite = u"\u2014"_s;
 
@@ -101,8 +99,7 @@ void carryUp(std::string& digits)
 
 } // namespace
 
-namespace
-{
+namespace {
 
 template<class Int> Int truncated(Double value)
 {

@@ -5,8 +5,7 @@
 #include <QString>
 #include <QStringView>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The number at the start of the text; either decimal mark is read, so that what
 // Format and Str wrote always reads back as the number shown. Anything else reads 0.

@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The numeric kinds the formulas are written in; each step keeps its own kind.
 using Single = float;

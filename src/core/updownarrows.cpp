@@ -5,8 +5,7 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
-namespace vorkan
-{
+namespace vorkan {
 
 UpDownArrows::UpDownArrows(QWidget* parent) : QWidget(parent)
 {

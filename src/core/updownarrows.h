@@ -7,13 +7,11 @@
 
 #include <functional>
 
-namespace vorkan
-{
+namespace vorkan {
 
 // The little pair of arrows beside a stepped field: the style's spin-box buttons,
 // stepping once on a press and again and again while the button is held.
-class UpDownArrows : public QWidget
-{
+class UpDownArrows : public QWidget {
 public:
     explicit UpDownArrows(QWidget* parent);
 

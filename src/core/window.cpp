@@ -1,20 +1,22 @@
 #include "window.h"
 
+#include "app.h"
 #include "controlfactory.h"
+#include "menus.h"
 #include "platform.h"
 
+#include <QAction>
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <vector>
 
-namespace vorkan
-{
+namespace vorkan {
 
-namespace
-{
+namespace {
 
 QHash<QString, Window*>& implicitWindows()
 {
@@ -69,8 +71,11 @@ Window::~Window()
 void Window::build()
 {
     Layout();
+    if (!menuBar_ && App().MenuBar)
+        setMenuBar(*App().MenuBar);
     CreateControls();
     AddMenuHandlers();
+    EnableMenuItems();
     Event_Open();
     show();
 }
@@ -85,9 +90,57 @@ void Window::Layout()
          area.top() + (area.height() - props_.height) / 2);
 }
 
-void Window::setMenuBar(QMenuBar* bar)
+void Window::setMenuBar(const MenuBar& bar)
 {
-    layout()->setMenuBar(bar);
+    delete menuBar_;
+    menuBar_ = buildMenuBar(bar, this, [this](const MenuItem& item) { handleMenuCommand(item); });
+    for (QMenu* menu : menuBar_->findChildren<QMenu*>())
+        connect(menu, &QMenu::aboutToShow, this, &Window::EnableMenuItems);
+    layout()->setMenuBar(menuBar_);
+}
+
+void Window::AddMenuHandler(QStringView itemName, std::function<bool()> handler)
+{
+    menuHandlers_.insert(itemName.toString(), std::move(handler));
+}
+
+QAction& Window::menuItem(QStringView name) const
+{
+    QAction* found = nullptr;
+    if (menuBar_)
+        for (QMenu* menu : menuBar_->findChildren<QMenu*>()) {
+            if (menu->objectName() == name)
+                found = menu->menuAction();
+            for (QAction* action : menu->actions())
+                if (action->objectName() == name)
+                    found = action;
+        }
+    if (!found)
+        throw NilObjectException(u"no menu item " + name.toString() + u" in " + windowTitle());
+    return *found;
+}
+
+// Only the items this window answers are enabled, so that a command never reaches a
+// window that has nothing to do with it; quitting works everywhere.
+void Window::EnableMenuItems()
+{
+    if (!menuBar_)
+        return;
+    for (QMenu* menu : menuBar_->findChildren<QMenu*>())
+        for (QAction* action : menu->actions())
+            if (!action->isSeparator())
+                action->setEnabled(action->menuRole() == QAction::QuitRole ||
+                                   menuHandlers_.contains(action->objectName()));
+}
+
+void Window::handleMenuCommand(const MenuItem& item)
+{
+    if (item.quits) {
+        quitApplication();
+        return;
+    }
+    if (const auto handler = menuHandlers_.value(item.Name))
+        handler();
 }
 
 void Window::Show()

@@ -7,12 +7,16 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
 #include <span>
 
+class QAction;
 class QMenuBar;
 
-namespace vorkan
-{
+namespace vorkan {
+
+class MenuBar;
+struct MenuItem;
 
 // The fixed properties of a window class.
 struct WindowProps {
@@ -25,8 +29,7 @@ struct WindowProps {
 // A top-level window of fixed size whose controls come from a layout table. It is
 // built in this order: Layout, CreateControls, AddMenuHandlers, Event_Open; closing
 // it destroys it.
-class Window : public QWidget
-{
+class Window : public QWidget {
 public:
     ~Window() override;
 
@@ -50,6 +53,9 @@ public:
         return *found;
     }
 
+    // The item of that name in the window's menu bar; throws NilObjectException.
+    QAction& menuItem(QStringView name) const;
+
 protected:
     explicit Window(const WindowProps& props);
 
@@ -61,7 +67,11 @@ protected:
     virtual void Event_Close() {}
 
     void createControls(std::span<const LayoutRow> rows);
-    void setMenuBar(QMenuBar* bar);
+    // The window's menus; a window that sets none shows the application's.
+    void setMenuBar(const MenuBar& bar);
+    // The command of that item reaches this handler while this window is in front;
+    // an item with no handler here is disabled, but for the one that quits.
+    void AddMenuHandler(QStringView itemName, std::function<bool()> handler);
     QWidget& clientArea() const { return *client_; }
 
     void closeEvent(QCloseEvent* event) override;
@@ -70,17 +80,20 @@ private:
     friend class ImplicitWindows;
     void build();
     void applyTabOrder(std::span<const LayoutRow> rows);
+    void EnableMenuItems();
+    void handleMenuCommand(const MenuItem& item);
 
     WindowProps props_;
     QWidget* client_;
+    QMenuBar* menuBar_ = nullptr;
     QHash<QString, QWidget*> controls_;
+    QHash<QString, std::function<bool()>> menuHandlers_;
 };
 
 // One live window per class, found by the class's full name ("imc.imc"). A window is
 // registered before its Event_Open runs, so that a call from inside it returns the
 // window being built, and leaves the list when it closes.
-class ImplicitWindows
-{
+class ImplicitWindows {
 public:
     template<class W> static W& instance()
     {

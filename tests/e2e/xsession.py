@@ -23,8 +23,18 @@ class XSession:
         self.env.pop("WAYLAND_DISPLAY", None)
         self.dpy = display.Display(self.name)
         self.root = self.dpy.screen().root
+        self.programs = []
+
+    def start(self, binary, *args):
+        program = subprocess.Popen([binary, *args], env=self.env)
+        self.programs.append(program)
+        return program
 
     def close(self):
+        for program in self.programs:
+            if program.poll() is None:
+                program.kill()
+                program.wait()
         self.dpy.close()
         self.xvfb.terminate()
         self.xvfb.wait()

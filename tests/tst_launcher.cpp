@@ -1,0 +1,221 @@
+#include "support.h"
+
+#include "calculators/imc.h"
+#include "core/controls.h"
+#include "core/platform.h"
+#include "core/textops.h"
+#include "launcher/infos.h"
+#include "launcher/window1.h"
+
+#include <QAction>
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace vorkan;
+using namespace vorkan::test;
+
+namespace {
+
+// Closes the next message box as soon as it shows, and tells its title and text.
+struct MessageBoxWatch {
+    QString title;
+    QString text;
+    void arm()
+    {
+        QTimer::singleShot(0, [this] {
+            for (QWidget* widget : QApplication::topLevelWidgets())
+                if (auto* box = qobject_cast<QMessageBox*>(widget); box && box->isVisible()) {
+                    title = box->windowTitle();
+                    text = box->text();
+                    box->accept();
+                }
+        });
+    }
+};
+
+int visibleWindowsTitled(const QString& title)
+{
+    int count = 0;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        count += widget->isVisible() && widget->windowTitle() == title;
+    return count;
+}
+
+// A program that leaves a mark beside itself when it runs.
+QString writeProbe(const QString& folder, const QString& name)
+{
+    const QString path = QDir(folder).filePath(name);
+    QFile script(path);
+    if (!script.open(QIODevice::WriteOnly))
+        return {};
+    script.write("#!/bin/sh\ntouch \"$0.ran\"\n");
+    script.close();
+    script.setPermissions(script.permissions() | QFile::ExeOwner);
+    return path;
+}
+
+} // namespace
+
+class TestLauncher : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { resetRecord(); }
+    void cleanup()
+    {
+        closeAllWindows();
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void opensCentredInTheFreeArea();
+    void showsTodaysDateInTheLocalesShortForm();
+    void buttons_data();
+    void buttons();
+    void oneWindowPerCalculator();
+    void infosTextLineByLine();
+    void infosOpensFromTheMainWindowOnly();
+    void quitterClosesEveryWindowFromAnyWindow();
+    void launchesOnlyWhatLiesBesideTheProgram();
+    void aMissingCompanionChangesNothing();
+};
+
+void TestLauncher::opensCentredInTheFreeArea()
+{
+    // The test screen's free area starts at (200, 30), below and beside panels.
+    QCOMPARE(availableScreenArea(), QRect(200, 30, 1000, 700));
+    QCOMPARE(Window1().pos(), QPoint(200 + 277, 30 + 249));
+    QCOMPARE(Window1().windowTitle(), u"Vorkan MAC"_s);
+    QCOMPARE(Window1().control<StaticText>(u"sbdate").geometry(), QRect(6, 6, 88, 16));
+}
+
+void TestLauncher::showsTodaysDateInTheLocalesShortForm()
+{
+    useLocale(QLocale::French);
+    QCOMPARE(Window1().control<StaticText>(u"sbdate").text(),
+             QDate::currentDate().toString(u"dd/MM/yyyy"_s));
+}
+
+void TestLauncher::buttons_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("helpTag");
+    QTest::newRow("1") << u"BevelButton1"_s << u"Echelle de Norton"_s
+                       << u"Estimation du risque d'escarre"_s;
+    QTest::newRow("2") << u"BevelButton2"_s << u"Clé insee"_s << u""_s;
+    QTest::newRow("3") << u"BevelButton3"_s << u"IMC"_s << u""_s;
+    QTest::newRow("4") << u"BevelButton4"_s << u"Echelle Visuelle"_s << u"Echelle visuelle 3m"_s;
+    QTest::newRow("5") << u"BevelButton5"_s << u"Surface corporelle"_s << u""_s;
+    QTest::newRow("6") << u"BevelButton6"_s << u"Poids idéal"_s << u""_s;
+    QTest::newRow("7") << u"BevelButton7"_s << u"Chrono"_s << u"Chrono"_s;
+}
+
+void TestLauncher::buttons()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, caption);
+    QFETCH(QString, helpTag);
+    const auto& button = Window1().control<BevelButton>(name);
+    QCOMPARE(button.text(), caption);
+    QCOMPARE(button.toolTip(), helpTag);
+    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
+}
+
+void TestLauncher::oneWindowPerCalculator()
+{
+    auto& button = Window1().control<BevelButton>(u"BevelButton3");
+    for (int i = 0; i < 3; ++i)
+        QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(visibleWindowsTitled(u"IMC"_s), 1);
+    imc().Close();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(visibleWindowsTitled(u"IMC"_s), 1);
+}
+
+void TestLauncher::infosTextLineByLine()
+{
+    const QStringList lines = infosText().split(EndOfLine());
+    QCOMPARE(lines.size(), 9);
+    QCOMPARE(lines[0], u"Vorkan MAC 1.0"_s);
+    QVERIFY(lines[1].contains(u"2026"_s));
+    QVERIFY(lines[3].contains(u"MIT"_s));
+    QVERIFY(lines[5].startsWith(u"Web : https://"_s));
+    QVERIFY(lines[6].startsWith(u"Mail : "_s) && lines[6].contains(u'@'));
+    QCOMPARE(lines[8], u"Utilitaires médicaux"_s);
+    for (const int empty : {2, 4, 7})
+        QCOMPARE(lines[empty], QString());
+}
+
+void TestLauncher::infosOpensFromTheMainWindowOnly()
+{
+    QAction& mainInfos = Window1().menuItem(u"OptionsInfos");
+    QAction& imcInfos = imc().menuItem(u"OptionsInfos");
+    QCOMPARE(Window1().menuItem(u"OptionsMenu").text(), u"&Options"_s);
+    QCOMPARE(imc().menuItem(u"OptionsMenu").text(), u"&Options"_s);
+    QVERIFY(mainInfos.isEnabled());
+    QVERIFY(!imcInfos.isEnabled());
+
+    MessageBoxWatch watch;
+    watch.arm();
+    imcInfos.trigger();
+    QTest::qWait(50);
+    QCOMPARE(watch.title, QString());
+
+    watch.arm();
+    mainInfos.trigger();
+    QCOMPARE(watch.title, u"Infos"_s);
+    QCOMPARE(watch.text, infosText());
+}
+
+void TestLauncher::quitterClosesEveryWindowFromAnyWindow()
+{
+    Window1();
+    imc();
+    QAction& quit = imc().menuItem(u"FileQuit");
+    QVERIFY(quit.isEnabled());
+    QCOMPARE(quit.text(), u"Quitter"_s);
+    QCOMPARE(quit.shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    QCOMPARE(quit.menuRole(), QAction::QuitRole);
+    quit.trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(ImplicitWindows::count(), 0);
+    QCOMPARE(visibleWindowsTitled(u"IMC"_s) + visibleWindowsTitled(u"Vorkan MAC"_s), 0);
+}
+
+void TestLauncher::launchesOnlyWhatLiesBesideTheProgram()
+{
+    const QString name = u"vorkan-probe-%1.app"_s.arg(QCoreApplication::applicationPid());
+    QTemporaryDir elsewhere;
+    const QString inCurrentFolder = writeProbe(elsewhere.path(), name);
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(elsewhere.path());
+    QVERIFY(!launchBesideProgram(name));
+    QTest::qWait(300);
+    QVERIFY(!QFile::exists(inCurrentFolder + u".ran"_s));
+
+    const QString beside = writeProbe(QCoreApplication::applicationDirPath(), name);
+    QVERIFY(launchBesideProgram(name));
+    QTRY_VERIFY(QFile::exists(beside + u".ran"_s));
+    QDir::setCurrent(previous);
+    QFile::remove(beside);
+    QFile::remove(beside + u".ran"_s);
+}
+
+void TestLauncher::aMissingCompanionChangesNothing()
+{
+    QVERIFY(
+        !QFile::exists(QDir(QCoreApplication::applicationDirPath()).filePath(u"lumetra.app"_s)));
+    Window1();
+    const int windows = static_cast<int>(QApplication::topLevelWidgets().size());
+    QTest::mouseClick(&Window1().control<BevelButton>(u"BevelButton4"), Qt::LeftButton);
+    QTest::mouseClick(&Window1().control<BevelButton>(u"BevelButton7"), Qt::LeftButton);
+    QCOMPARE(static_cast<int>(QApplication::topLevelWidgets().size()), windows);
+}
+
+VORKAN_TEST_MAIN(TestLauncher)
+#include "tst_launcher.moc"
