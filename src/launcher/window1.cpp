@@ -1,6 +1,8 @@
 #include "window1.h"
 
 #include "calculators/imc.h"
+#include "calculators/pideal.h"
+#include "calculators/surf.h"
 #include "core/controls.h"
 #include "core/platform.h"
 #include "core/textops.h"
@@ -72,6 +74,8 @@ void Window1::CreateControls()
     };
     onAction(u"BevelButton3", [] { imc().Show(); });
     onAction(u"BevelButton4", [this] { launcher(u"lumetra.app"_s); });
+    onAction(u"BevelButton5", [] { surf().Show(); });
+    onAction(u"BevelButton6", [] { pideal().Show(); });
     onAction(u"BevelButton7", [this] { launcher(u"pendulo.app"_s); });
 }
 
