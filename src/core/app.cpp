@@ -12,7 +12,6 @@ namespace vorkan {
 App::App(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(u"Vorkan MAC"_s);
-    setApplicationDisplayName(u"Vorkan MAC"_s);
     setOrganizationName(u"Vorkan"_s);
 }
 

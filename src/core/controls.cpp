@@ -3,6 +3,7 @@
 #include "textops.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QWheelEvent>
@@ -78,42 +79,23 @@ void StaticText::setText(const QString& caption)
     QString shown = caption;
     shown.replace(u"&&"_s, u"&"_s);
     QLabel::setText(shown);
-    fitToWidth();
 }
 
-void StaticText::resizeEvent(QResizeEvent* event)
+// Measured when painted rather than when written, so that a calculation that writes
+// many results pays nothing for it.
+void StaticText::paintEvent(QPaintEvent*)
 {
-    QLabel::resizeEvent(event);
-    fitToWidth();
-}
-
-void StaticText::changeEvent(QEvent* event)
-{
-    QLabel::changeEvent(event);
-    if (event->type() == QEvent::FontChange && !fitting_)
-        designedPointSize_ = 0;
-}
-
-void StaticText::fitToWidth()
-{
-    if (width() <= 0)
-        return;
-    fitting_ = true;
-    QFont shrunk = font();
-    if (designedPointSize_ <= 0)
-        designedPointSize_ = shrunk.pointSizeF();
-    constexpr qreal smallest = 6;
-    qreal size = designedPointSize_;
-    shrunk.setPointSizeF(size);
     const QString shown = QLabel::text();
-    while (size > smallest &&
-           QFontMetricsF(shrunk).horizontalAdvance(shown) > contentsRect().width()) {
-        size -= 0.5;
-        shrunk.setPointSizeF(size);
-    }
-    if (shrunk != font())
-        setFont(shrunk);
-    fitting_ = false;
+    const QRect box = contentsRect();
+    QFont fitted = font();
+    constexpr qreal smallest = 6;
+    while (fitted.pointSizeF() > smallest &&
+           QFontMetricsF(fitted).horizontalAdvance(shown) > box.width())
+        fitted.setPointSizeF(fitted.pointSizeF() - 0.5);
+    QPainter painter(this);
+    painter.setFont(fitted);
+    style()->drawItemText(&painter, box, static_cast<int>(alignment()), palette(), isEnabled(),
+                          shown, foregroundRole());
 }
 
 void StaticText::mousePressEvent(QMouseEvent* event)

@@ -17,8 +17,10 @@ namespace vorkan {
 template<class Base> class RectControl : public Base {
 public:
     using Base::Base;
-    // Paints the control now, before the handler goes on.
-    void Refresh(bool /*now*/ = true) { this->repaint(); }
+    // Asks for the control to be painted. Qt paints all such controls together
+    // before it takes the next input event, so the user sees the new value as soon
+    // as with a synchronous paint, without a flush to the screen for each control.
+    void Refresh(bool /*now*/ = true) { this->update(); }
 };
 
 // A one-line field. KeyDown runs before the field sees the key, so the text is still
@@ -42,7 +44,7 @@ protected:
 
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
 // shows one ampersand and no mnemonic. Where the platform's font is wider than the
-// one the layout was drawn with, the text is made smaller until it fits its box.
+// one the layout was drawn with, the text is drawn smaller until it fits its box.
 class StaticText : public RectControl<QLabel> {
 public:
     explicit StaticText(QWidget* parent);
@@ -56,15 +58,10 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
-    void fitToWidth();
-
     QString caption_;
-    qreal designedPointSize_ = 0;
-    bool fitting_ = false;
 };
 
 // A button that never takes the keyboard focus.

@@ -19,7 +19,7 @@ public:
     std::function<void(UpDownArrows&)> Down;
     std::function<bool(UpDownArrows&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
 
-    void Refresh(bool /*now*/ = true) { repaint(); }
+    void Refresh(bool /*now*/ = true) { update(); }
     QSize sizeHint() const override { return {13, 25}; }
 
 protected:

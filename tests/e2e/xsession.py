@@ -39,14 +39,33 @@ class XSession:
         self.xvfb.terminate()
         self.xvfb.wait()
 
+    def tool_env(self):
+        """The display's environment in a locale every machine has, for the X tools."""
+        return dict(self.env, LANG="C.UTF-8", LC_ALL="C.UTF-8")
+
     def xdotool(self, *args):
-        return subprocess.run(["xdotool", *args], env=self.env, check=True,
+        return subprocess.run(["xdotool", *args], env=self.tool_env(), check=True,
                               capture_output=True, text=True).stdout
 
+    def title(self, window):
+        """The window's title as the program set it (UTF-8), whatever the locale."""
+        prop = window.get_full_property(self.dpy.intern_atom("_NET_WM_NAME"), X.AnyPropertyType)
+        if prop is None:
+            return window.get_wm_name()
+        value = prop.value
+        return value.decode("utf-8") if isinstance(value, bytes) else value
+
     def windows_named(self, title):
-        out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"],
-                             env=self.env, capture_output=True, text=True).stdout
-        return [int(w) for w in out.split()]
+        """The mapped top-level windows with that exact title, oldest first."""
+        found = []
+        for child in self.root.query_tree().children:
+            try:
+                if (child.get_attributes().map_state == X.IsViewable
+                        and self.title(child) == title):
+                    found.append(child.id)
+            except Exception:  # a window that went away while we looked
+                continue
+        return found
 
     def wait_for_window(self, title, timeout=20):
         deadline = time.monotonic() + timeout

@@ -1,0 +1,131 @@
+// How long the calculators take to answer, measured through their controls as a
+// user drives them: one calc, one key press in imc, opening a window.
+#include "calculators/imc.h"
+#include "calculators/pideal.h"
+#include "calculators/surf.h"
+#include "core/app.h"
+#include "core/controls.h"
+#include "launcher/startup.h"
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QTest>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using namespace vorkan;
+
+class BenchCalc : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void imcCalc();
+    void surfCalc();
+    void pidealCalc();
+    void imcKeyPress();
+    void openImc();
+    void openSurf();
+    void openPideal();
+
+private:
+    // A key release in a stepped field runs calc and nothing else.
+    static void releaseKey(QWidget& field);
+    template<class Open> void measureOpening(Open open);
+};
+
+void BenchCalc::cleanup()
+{
+    QApplication::closeAllWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void BenchCalc::releaseKey(QWidget& field)
+{
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_5, Qt::NoModifier, u"5"_s);
+    QCoreApplication::sendEvent(&field, &release);
+}
+
+void BenchCalc::imcCalc()
+{
+    auto& field = imc().control<TextField>(u"taille");
+    QBENCHMARK
+    {
+        releaseKey(field);
+    }
+}
+
+void BenchCalc::surfCalc()
+{
+    auto& field = surf().control<TextField>(u"surftaille");
+    QBENCHMARK
+    {
+        releaseKey(field);
+    }
+}
+
+void BenchCalc::pidealCalc()
+{
+    auto& age = pideal().control<Slider>(u"Slider2");
+    int value = 20;
+    QBENCHMARK
+    {
+        value = value == 20 ? 25 : 20;
+        age.setValue(value);
+    }
+}
+
+void BenchCalc::imcKeyPress()
+{
+    auto& field = imc().control<TextField>(u"taille");
+    bool up = true;
+    QBENCHMARK
+    {
+        QTest::keyClick(&field, up ? Qt::Key_Up : Qt::Key_Down);
+        up = !up;
+    }
+}
+
+template<class Open> void BenchCalc::measureOpening(Open open)
+{
+    std::vector<qint64> times;
+    for (int i = 0; i < 50; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        open();
+        QCoreApplication::processEvents();
+        times.push_back(timer.nsecsElapsed());
+        cleanup();
+    }
+    std::sort(times.begin(), times.end());
+    qInfo("open: median %.2f ms, min %.2f ms, max %.2f ms", double(times[times.size() / 2]) / 1e6,
+          double(times.front()) / 1e6, double(times.back()) / 1e6);
+}
+
+void BenchCalc::openImc()
+{
+    measureOpening([] { imc(); });
+}
+
+void BenchCalc::openSurf()
+{
+    measureOpening([] { surf(); });
+}
+
+void BenchCalc::openPideal()
+{
+    measureOpening([] { pideal(); });
+}
+
+int main(int argc, char** argv)
+{
+    class App app(argc, argv);
+    newAppInstance(app);
+    app.setQuitOnLastWindowClosed(false);
+    BenchCalc bench;
+    return QTest::qExec(&bench, argc, argv);
+}
+
+#include "bench_calc.moc"
