@@ -1,9 +1,13 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test; needs no display.
+# Installs what is missing, then builds and runs every test twice: in the normal
+# build and under AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer.
+# Needs no display.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/deps.sh test
-cmake --preset dev >/dev/null
-cmake --build --preset dev
-ctest --preset dev
+for preset in dev asan; do
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset"
+    ctest --preset "$preset"
+done

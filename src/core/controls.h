@@ -26,6 +26,8 @@ public:
 // A one-line field. KeyDown runs before the field sees the key, so the text is still
 // the one from before the key, also for a key the field will refuse.
 class TextField : public RectControl<QLineEdit> {
+    Q_OBJECT
+
 public:
     explicit TextField(QWidget* parent);
 
@@ -46,6 +48,8 @@ protected:
 // shows one ampersand and no mnemonic. Where the platform's font is wider than the
 // one the layout was drawn with, the text is drawn smaller until it fits its box.
 class StaticText : public RectControl<QLabel> {
+    Q_OBJECT
+
 public:
     explicit StaticText(QWidget* parent);
 
@@ -66,12 +70,16 @@ private:
 
 // A button that never takes the keyboard focus.
 class BevelButton : public RectControl<QPushButton> {
+    Q_OBJECT
+
 public:
     explicit BevelButton(QWidget* parent);
     std::function<void(BevelButton&)> Action;
 };
 
 class PushButton : public RectControl<QPushButton> {
+    Q_OBJECT
+
 public:
     explicit PushButton(QWidget* parent);
     std::function<void(PushButton&)> Action;
@@ -83,6 +91,8 @@ protected:
 
 // A pop-up list; ListIndex is -1 while no row is chosen.
 class PopupMenu : public RectControl<QComboBox> {
+    Q_OBJECT
+
 public:
     explicit PopupMenu(QWidget* parent);
     void AddRow(const QString& text) { addItem(text); }
@@ -92,12 +102,16 @@ public:
 };
 
 class Slider : public RectControl<QSlider> {
+    Q_OBJECT
+
 public:
     explicit Slider(QWidget* parent);
     std::function<void(Slider&)> ValueChanged;
 };
 
 class GroupBox : public RectControl<QGroupBox> {
+    Q_OBJECT
+
 public:
     using RectControl::RectControl;
 };

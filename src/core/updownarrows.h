@@ -12,6 +12,8 @@ namespace vorkan {
 // The little pair of arrows beside a stepped field: the style's spin-box buttons,
 // stepping once on a press and again and again while the button is held.
 class UpDownArrows : public QWidget {
+    Q_OBJECT
+
 public:
     explicit UpDownArrows(QWidget* parent);
 

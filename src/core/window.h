@@ -30,6 +30,8 @@ struct WindowProps {
 // built in this order: Layout, CreateControls, AddMenuHandlers, Event_Open; closing
 // it destroys it.
 class Window : public QWidget {
+    Q_OBJECT
+
 public:
     ~Window() override;
 
