@@ -1,5 +1,7 @@
 #include "app.h"
 
+#include "accessibility.h"
+
 #include <QMessageBox>
 
 #include <cstdio>
@@ -13,6 +15,7 @@ App::App(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(u"Vorkan MAC"_s);
     setOrganizationName(u"Vorkan"_s);
+    installAccessibility();
 }
 
 void App::Event_Open()

@@ -1,5 +1,6 @@
 #include "controls.h"
 
+#include "accessibility.h"
 #include "textops.h"
 
 #include <QKeyEvent>
@@ -79,6 +80,16 @@ void StaticText::setText(const QString& caption)
     QString shown = caption;
     shown.replace(u"&&"_s, u"&"_s);
     QLabel::setText(shown);
+    if (labelled_)
+        labelled_->setAccessibleName(labelPrefix_ + shown);
+    announceTextChange(*this);
+}
+
+void StaticText::labels(QWidget& control, const QString& prefix)
+{
+    labelled_ = &control;
+    labelPrefix_ = prefix;
+    control.setAccessibleName(prefix + QLabel::text());
 }
 
 // Measured when painted rather than when written, so that a calculation that writes

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QSlider>
 
@@ -56,6 +57,10 @@ public:
     QString text() const { return caption_; }
     void setText(const QString& caption);
 
+    // Names that control, for assistive tools, after this caption (and the prefix), now
+    // and whenever the caption changes.
+    void labels(QWidget& control, const QString& prefix);
+
     std::function<bool(StaticText&, Int32 x, Int32 y)> MouseDown;
     std::function<void(StaticText&)> MouseExit;
 
@@ -66,6 +71,8 @@ protected:
 
 private:
     QString caption_;
+    QPointer<QWidget> labelled_;
+    QString labelPrefix_;
 };
 
 // A button that never takes the keyboard focus.

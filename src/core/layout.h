@@ -52,6 +52,8 @@ struct ControlProps {
     bool readOnly = false;
     int maskDigits = 0; // a Mask of that many "#"
     QStringView helpTag{};
+    QStringView label{};          // the control whose caption names this one to assistive tools
+    QStringView accessibleName{}; // a name for a control that has no visible label
     bool enabled = true;
     QLine line{}; // a Line's end points, from the window's top left
     SliderProps slider{};

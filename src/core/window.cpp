@@ -1,5 +1,6 @@
 #include "window.h"
 
+#include "accessibility.h"
 #include "app.h"
 #include "controlfactory.h"
 #include "menus.h"
@@ -173,6 +174,12 @@ void Window::createControls(std::span<const LayoutRow> rows)
         if (row.kind != Kind::Line)
             widget->setGeometry(row.geometry.translated(-parent->mapTo(client_, QPoint(0, 0))));
         controls_.insert(row.name.toString(), widget);
+    }
+    for (const LayoutRow& row : rows) {
+        if (!row.props.label.isEmpty())
+            applyLabel(control<QWidget>(row.name), control<QWidget>(row.props.label));
+        if (!row.props.accessibleName.isEmpty())
+            control<QWidget>(row.name).setAccessibleName(row.props.accessibleName.toString());
     }
     applyTabOrder(rows);
 }
