@@ -48,7 +48,6 @@ ChartWindow::ChartWindow(CalibrationStore& store, QWidget* parent) : QWidget(par
     setAccessibleName(u"Échelle visuelle"_s);
     setAccessibleDescription(chartHint(false));
     setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(false);
     const QScreen* shownOn = screen();
     screenKey_ = shownOn ? CalibrationStore::keyFor(*shownOn) : QString();
     const std::optional<double> stored = store_.load(screenKey_);

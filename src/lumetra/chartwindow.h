@@ -5,6 +5,8 @@
 #include <QString>
 #include <QWidget>
 
+class QPainter;
+
 namespace lumetra {
 
 class CalibrationStore;
@@ -43,7 +45,7 @@ private:
 
     QSizeF chartAreaPx() const;
     double hintBandHeight() const;
-    void paintChart(class QPainter& painter, QSizeF areaPx) const;
+    void paintChart(QPainter& painter, QSizeF areaPx) const;
     void paintCard(QPainter& painter, QSizeF areaPx) const;
     void paintHint(QPainter& painter) const;
     void paintInstructions(QPainter& painter) const;

@@ -70,8 +70,7 @@ void ChronoWindow::buildControls()
     lap_ = addButton(u"Tour (T)"_s, u"Tour"_s, Qt::Key_T, &ChronoWindow::recordLap);
     auto* zero =
         addButton(u"Remise à zéro (R)"_s, u"Remise à zéro"_s, Qt::Key_R, &ChronoWindow::reset);
-    for (QWidget* button : {static_cast<QWidget*>(startStop_), static_cast<QWidget*>(lap_),
-                            static_cast<QWidget*>(zero)})
+    for (QPushButton* button : {startStop_, lap_, zero})
         watchRow->addWidget(button);
 
     auto* countdownRow = new QHBoxLayout;
