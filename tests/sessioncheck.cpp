@@ -124,8 +124,8 @@ void SessionCheck::calculated(const Window& window)
 
 QString SessionCheck::everyWindow() const
 {
-    for (const QString& name : {u"imc.imc"_s, u"surf.surf"_s, u"pideal.pideal"_s, u"norton.norton"_s,
-                               u"cleinsee.cleinsee"_s})
+    for (const QString& name : {u"imc.imc"_s, u"surf.surf"_s, u"pideal.pideal"_s,
+                                u"norton.norton"_s, u"cleinsee.cleinsee"_s})
         if (const Window* window = ImplicitWindows::find(name))
             if (const QString fault = windowFaults(*window, name); !fault.isEmpty())
                 return name + u": "_s + fault;

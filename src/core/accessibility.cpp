@@ -12,9 +12,9 @@ namespace {
 // name of that figure and the text is its value.
 class StaticTextAccessible : public QAccessibleWidget {
 public:
-    explicit StaticTextAccessible(QWidget* label) : QAccessibleWidget(label, QAccessible::StaticText)
-    {
-    }
+    explicit StaticTextAccessible(QWidget* label)
+        : QAccessibleWidget(label, QAccessible::StaticText)
+    {}
 
     QString text(QAccessible::Text kind) const override
     {
