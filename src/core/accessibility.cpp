@@ -1,6 +1,7 @@
 #include "accessibility.h"
 
 #include "controls.h"
+#include "window.h"
 
 #include <QAccessibleWidget>
 
@@ -30,9 +31,14 @@ public:
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    if (className == QLatin1StringView(StaticText::staticMetaObject.className()) &&
-        object->isWidgetType())
-        return new StaticTextAccessible(static_cast<QWidget*>(object));
+    if (!object->isWidgetType())
+        return nullptr;
+    auto* widget = static_cast<QWidget*>(object);
+    if (className == QLatin1StringView(StaticText::staticMetaObject.className()))
+        return new StaticTextAccessible(widget);
+    // Our windows are plain widgets; tools should still present them as windows.
+    if (className == QLatin1StringView(Window::staticMetaObject.className()))
+        return new QAccessibleWidget(widget, QAccessible::Window);
     return nullptr;
 }
 
@@ -47,9 +53,13 @@ void announceTextChange(QWidget& label)
 {
     if (!QAccessible::isActive())
         return;
-    const bool named = !label.accessibleName().isEmpty();
-    QAccessibleEvent event(&label, named ? QAccessible::ValueChanged : QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
+    if (label.accessibleName().isEmpty()) {
+        QAccessibleEvent event(&label, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    } else {
+        QAccessibleValueChangeEvent event(&label, static_cast<QLabel&>(label).text());
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void applyLabel(QWidget& control, QWidget& label)
