@@ -7,11 +7,28 @@
 
 namespace vorkan {
 
+namespace {
+
+// Text inside a filled shape stays readable whatever the desktop's colours: it takes
+// black on a light fill and white on a dark one.
+void contrastWithFill(QWidget& shape, const QColor& fill)
+{
+    QPalette palette = shape.palette();
+    const QColor text = fill.lightnessF() > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Text, text);
+    shape.setPalette(palette);
+}
+
+} // namespace
+
 Rectangle::Rectangle(QWidget* parent, QColor fill, QColor topLeft, QColor bottomRight,
                      int borderWidth)
     : QWidget(parent), fill_(fill), topLeft_(topLeft), bottomRight_(bottomRight),
       borderWidth_(borderWidth)
-{}
+{
+    contrastWithFill(*this, fill);
+}
 
 void Rectangle::paintEvent(QPaintEvent*)
 {
@@ -27,7 +44,9 @@ void Rectangle::paintEvent(QPaintEvent*)
 RoundRectangle::RoundRectangle(QWidget* parent, QColor fill, QColor border, int borderWidth,
                                QSize oval)
     : QWidget(parent), fill_(fill), border_(border), borderWidth_(borderWidth), oval_(oval)
-{}
+{
+    contrastWithFill(*this, fill);
+}
 
 void RoundRectangle::paintEvent(QPaintEvent*)
 {
