@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;
@@ -167,6 +168,14 @@ void TestNorton::hasItsOwnMenu()
     QVERIFY(norton().FileQuit().isEnabled());
     // The Infos box belongs to the application's bar, which this window does not show.
     QVERIFY_THROWS_EXCEPTION(NilObjectException, norton().menuItem(u"OptionsInfos"));
+
+    // The menu opens from the keyboard, its title not greyed, with a popup in focus.
+    QVERIFY(QTest::qWaitForWindowActive(&norton()));
+    QMenu& menu = *norton().OptionsMenu().menu();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_E, Qt::AltModifier);
+    QTRY_VERIFY(menu.isVisible());
+    QVERIFY(norton().OptionsMenu().isEnabled());
+    menu.close();
 }
 
 VORKAN_TEST_MAIN(TestNorton)
