@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
+#include <QSignalBlocker>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -156,6 +157,15 @@ PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
         if (Change)
             Change(*this);
     });
+}
+
+// Qt would choose the first row added to an empty list by itself.
+void PopupMenu::AddRow(const QString& text)
+{
+    const QSignalBlocker quiet(this);
+    const int chosen = currentIndex();
+    addItem(text);
+    setCurrentIndex(chosen);
 }
 
 Slider::Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent)

@@ -96,13 +96,15 @@ protected:
     void leaveEvent(QEvent* event) override;
 };
 
-// A pop-up list; ListIndex is -1 while no row is chosen.
+// A pop-up list; ListIndex is -1 while no row is chosen, and shows blank.
 class PopupMenu : public RectControl<QComboBox> {
     Q_OBJECT
 
 public:
     explicit PopupMenu(QWidget* parent);
-    void AddRow(const QString& text) { addItem(text); }
+    // Adds a row without choosing one: a new popup stays on no row until a row is set
+    // or the user picks one, and adding fires no Change.
+    void AddRow(const QString& text);
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index) { setCurrentIndex(index); }
     std::function<void(PopupMenu&)> Change;

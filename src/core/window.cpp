@@ -95,7 +95,7 @@ void Window::setMenuBar(const MenuBar& bar)
 {
     delete menuBar_;
     menuBar_ = buildMenuBar(bar, this, [this](const MenuItem& item) { handleMenuCommand(item); });
-    for (QMenu* menu : menuBar_->findChildren<QMenu*>())
+    for (QMenu* menu : menus())
         connect(menu, &QMenu::aboutToShow, this, &Window::EnableMenuItems);
     layout()->setMenuBar(menuBar_);
 }
@@ -108,26 +108,35 @@ void Window::AddMenuHandler(QStringView itemName, std::function<bool()> handler)
 QAction& Window::menuItem(QStringView name) const
 {
     QAction* found = nullptr;
-    if (menuBar_)
-        for (QMenu* menu : menuBar_->findChildren<QMenu*>()) {
-            if (menu->objectName() == name)
-                found = menu->menuAction();
-            for (QAction* action : menu->actions())
-                if (action->objectName() == name)
-                    found = action;
-        }
+    for (QMenu* menu : menus()) {
+        if (menu->objectName() == name)
+            found = menu->menuAction();
+        for (QAction* action : menu->actions())
+            if (action->objectName() == name)
+                found = action;
+    }
     if (!found)
         throw NilObjectException(u"no menu item " + name.toString() + u" in " + windowTitle());
     return *found;
+}
+
+// The menus of the bar itself. Qt keeps further menus under the bar, as the one that
+// lists the titles a narrow window has no room for, whose entries are the titles.
+QList<QMenu*> Window::menus() const
+{
+    QList<QMenu*> own;
+    if (menuBar_)
+        for (QAction* title : menuBar_->actions())
+            if (title->menu())
+                own << title->menu();
+    return own;
 }
 
 // Only the items this window answers are enabled, so that a command never reaches a
 // window that has nothing to do with it; quitting works everywhere.
 void Window::EnableMenuItems()
 {
-    if (!menuBar_)
-        return;
-    for (QMenu* menu : menuBar_->findChildren<QMenu*>())
+    for (QMenu* menu : menus())
         for (QAction* action : menu->actions())
             if (!action->isSeparator())
                 action->setEnabled(action->menuRole() == QAction::QuitRole ||

@@ -4,6 +4,7 @@
 #include "nilobjectexception.h"
 
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QWidget>
 
@@ -11,6 +12,7 @@
 #include <span>
 
 class QAction;
+class QMenu;
 class QMenuBar;
 
 namespace vorkan {
@@ -82,6 +84,7 @@ private:
     friend class ImplicitWindows;
     void build();
     void applyTabOrder(std::span<const LayoutRow> rows);
+    QList<QMenu*> menus() const;
     void EnableMenuItems();
     void handleMenuCommand(const MenuItem& item);
 

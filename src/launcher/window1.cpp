@@ -1,6 +1,8 @@
 #include "window1.h"
 
+#include "calculators/cleinsee.h"
 #include "calculators/imc.h"
+#include "calculators/norton.h"
 #include "calculators/pideal.h"
 #include "calculators/surf.h"
 #include "core/controls.h"
@@ -72,6 +74,8 @@ void Window1::CreateControls()
     const auto onAction = [this](QStringView button, std::function<void()> action) {
         control<BevelButton>(button).Action = [action](BevelButton&) { action(); };
     };
+    onAction(u"BevelButton1", [] { norton().Show(); });
+    onAction(u"BevelButton2", [] { cleinsee().Show(); });
     onAction(u"BevelButton3", [] { imc().Show(); });
     onAction(u"BevelButton4", [this] { launcher(u"lumetra.app"_s); });
     onAction(u"BevelButton5", [] { surf().Show(); });
