@@ -2,7 +2,9 @@
 // value, buttons by caption and help, and the keyboard's way through each window.
 #include "support.h"
 
+#include "calculators/cleinsee.h"
 #include "calculators/imc.h"
+#include "calculators/norton.h"
 #include "calculators/pideal.h"
 #include "calculators/surf.h"
 #include "core/controls.h"
@@ -28,6 +30,10 @@ Opener opener(const QString& window)
         return []() -> Window& { return surf(); };
     if (window == u"pideal"_s)
         return []() -> Window& { return pideal(); };
+    if (window == u"norton"_s)
+        return []() -> Window& { return norton(); };
+    if (window == u"cleinsee"_s)
+        return []() -> Window& { return cleinsee(); };
     return []() -> Window& { return Window1(); };
 }
 
@@ -83,6 +89,10 @@ void TestAccessibility::namesAndValues_data()
     row("pideal", "Slider1", u"Taille (cm) : 160"_s, u"160"_s);
     row("pideal", "PopupMenu1", u"Sexe"_s, u"homme"_s);
     row("pideal", "StaticText12", u"Poids idéal (kg), Lorentz II"_s, u"57.5"_s);
+    row("norton", "PopupMenu2", u"Etat mental"_s, u""_s);
+    row("cleinsee", "TextField1", u"Numéro"_s, u""_s);
+    row("cleinsee", "TextField2", u"Clé"_s, u""_s);
+    row("cleinsee", "BevelButton2", u"Copier"_s, u""_s, u"Copier dans le presse papier"_s);
     row("main", "BevelButton1", u"Echelle de Norton"_s, u""_s, u"Estimation du risque d'escarre"_s);
     row("main", "BevelButton3", u"IMC"_s, u""_s);
 }
@@ -125,7 +135,9 @@ void TestAccessibility::windowsAreNamedByTheirTitles()
     for (const auto& [window, title] : {std::pair{u"main"_s, u"Vorkan MAC"_s},
                                         {u"imc"_s, u"IMC"_s},
                                         {u"surf"_s, u"Surface corporelle"_s},
-                                        {u"pideal"_s, u"Poids idéal"_s}})
+                                        {u"pideal"_s, u"Poids idéal"_s},
+                                        {u"norton"_s, u"Echelle de Norton"_s},
+                                        {u"cleinsee"_s, u"Cle insee"_s}})
         QCOMPARE(interfaceOf(&opener(window)())->text(QAccessible::Name), title);
 }
 
@@ -139,6 +151,11 @@ void TestAccessibility::tabOrder_data()
                           << QStringList{u"surftaille"_s, u"surfpoids"_s, u"surfaide"_s};
     QTest::newRow("pideal") << u"pideal"_s
                             << QStringList{u"Slider1"_s, u"Slider2"_s, u"PopupMenu1"_s};
+    QTest::newRow("norton") << u"norton"_s
+                            << QStringList{u"PopupMenu1"_s, u"PopupMenu2"_s, u"PopupMenu3"_s,
+                                           u"PopupMenu4"_s, u"PopupMenu5"_s};
+    QTest::newRow("cleinsee") << u"cleinsee"_s
+                              << QStringList{u"TextField1"_s, u"TextField2"_s, u"cleaide"_s};
 }
 
 void TestAccessibility::tabOrder()

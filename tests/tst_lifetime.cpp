@@ -1,7 +1,9 @@
 // Windows opened and closed again and again leave nothing behind.
 #include "support.h"
 
+#include "calculators/cleinsee.h"
 #include "calculators/imc.h"
+#include "calculators/norton.h"
 #include "calculators/pideal.h"
 #include "calculators/surf.h"
 #include "launcher/window1.h"
@@ -51,6 +53,8 @@ void TestLifetime::openedAndClosedAThousandTimes_data()
     QTest::newRow("imc") << std::function<Window&()>([]() -> Window& { return imc(); });
     QTest::newRow("surf") << std::function<Window&()>([]() -> Window& { return surf(); });
     QTest::newRow("pideal") << std::function<Window&()>([]() -> Window& { return pideal(); });
+    QTest::newRow("norton") << std::function<Window&()>([]() -> Window& { return norton(); });
+    QTest::newRow("cleinsee") << std::function<Window&()>([]() -> Window& { return cleinsee(); });
 }
 
 void TestLifetime::openedAndClosedAThousandTimes()

@@ -18,8 +18,18 @@ namespace {
 constexpr WindowProps props{u"Cle insee", 216, 117};
 
 constexpr LayoutRow layoutTable[] = {
-    {u"TextField1", Kind::TextField, {20, 36, 126, 22}, 2, u"", {.maskDigits = 13}},
-    {u"TextField2", Kind::TextField, {158, 36, 38, 22}, 3, u"", {.bold = true, .readOnly = true}},
+    {u"TextField1",
+     Kind::TextField,
+     {20, 36, 126, 22},
+     2,
+     u"",
+     {.maskDigits = 13, .label = u"StaticText2"}},
+    {u"TextField2",
+     Kind::TextField,
+     {158, 36, 38, 22},
+     3,
+     u"",
+     {.bold = true, .readOnly = true, .label = u"StaticText3"}},
     {u"StaticText2",
      Kind::StaticText,
      {20, 14, 57, 22},
