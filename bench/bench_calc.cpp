@@ -1,6 +1,8 @@
 // How long the calculators take to answer, measured through their controls as a
 // user drives them: one calc, one key press in imc, opening a window.
+#include "calculators/cleinsee.h"
 #include "calculators/imc.h"
+#include "calculators/norton.h"
 #include "calculators/pideal.h"
 #include "calculators/surf.h"
 #include "core/app.h"
@@ -25,10 +27,14 @@ private Q_SLOTS:
     void imcCalc();
     void surfCalc();
     void pidealCalc();
+    void nortonCalc();
+    void cleinseeCalc();
     void imcKeyPress();
     void openImc();
     void openSurf();
     void openPideal();
+    void openNorton();
+    void openCleinsee();
 
 private:
     // A key release in a stepped field runs calc and nothing else.
@@ -77,6 +83,30 @@ void BenchCalc::pidealCalc()
     }
 }
 
+void BenchCalc::nortonCalc()
+{
+    auto& window = norton();
+    for (int i = 1; i <= 5; ++i)
+        window.control<PopupMenu>(u"PopupMenu%1"_s.arg(i)).setListIndex(1);
+    auto& last = window.control<PopupMenu>(u"PopupMenu5");
+    int row = 0;
+    QBENCHMARK
+    {
+        last.setListIndex(row = 3 - row);
+    }
+}
+
+void BenchCalc::cleinseeCalc()
+{
+    auto& field = cleinsee().control<TextField>(u"TextField1");
+    field.setText(u"1234567890123"_s);
+    QBENCHMARK
+    {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
+        QCoreApplication::sendEvent(&field, &press);
+    }
+}
+
 void BenchCalc::imcKeyPress()
 {
     auto& field = imc().control<TextField>(u"taille");
@@ -117,6 +147,16 @@ void BenchCalc::openSurf()
 void BenchCalc::openPideal()
 {
     measureOpening([] { pideal(); });
+}
+
+void BenchCalc::openNorton()
+{
+    measureOpening([] { norton(); });
+}
+
+void BenchCalc::openCleinsee()
+{
+    measureOpening([] { cleinsee(); });
 }
 
 int main(int argc, char** argv)

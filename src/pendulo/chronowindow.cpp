@@ -63,6 +63,8 @@ void ChronoWindow::buildControls()
     digits_->setFont(digitsFont);
     countdownLine_ = makeLine(u"Compte à rebours"_s, 20, false);
     rateLine_ = makeLine(u"Battements par minute"_s, 16, false);
+    // The hint is the longest line of the window; it wraps rather than widen or clip it.
+    rateLine_->setWordWrap(true);
 
     auto* watchRow = new QHBoxLayout;
     startStop_ = addButton(u"Démarrer (Espace)"_s, u"Démarrer ou arrêter le chronomètre"_s,
