@@ -5,7 +5,7 @@ import subprocess
 import sys
 import time
 
-from xsession import XSession
+from xsession import XSession, run_cases
 
 MAIN_HEIGHT = 202  # client areas, below any menu bar
 NORTON_HEIGHT = 448
@@ -69,25 +69,17 @@ def cleinsee_copies_number_and_key(session, main_window):
 
 
 def main(binary):
-    cases = [norton_copies_its_score, cleinsee_copies_number_and_key]
     session = XSession()
-    failed = 0
     try:
         program = session.start(binary)
         main_window = session.wait_for_window("Vorkan MAC")
         settle()
-        for case in cases:
-            try:
-                case(session, main_window)
-                print(f"PASS {case.__name__}")
-            except AssertionError as error:
-                failed += 1
-                print(f"FAIL {case.__name__}: {error}")
+        status = run_cases([norton_copies_its_score, cleinsee_copies_number_and_key],
+                           lambda case: case(session, main_window))
         assert program.poll() is None, "the program ended"
     finally:
         session.close()
-    print(f"{len(cases) - failed} passed, {failed} failed")
-    return 1 if failed else 0
+    return status
 
 
 if __name__ == "__main__":

@@ -3,7 +3,7 @@
 import sys
 import time
 
-from xsession import XSession
+from xsession import XSession, run_cases
 
 MAIN_HEIGHT = 202  # the main window's client area, below its menu bar
 IMC_HEIGHT = 313
@@ -83,20 +83,15 @@ def lives_on_until_the_last_window_closes(session, binary):
 
 
 def main(binary):
-    cases = [opens_centred_and_ends_on_quit, lives_on_until_the_last_window_closes]
-    failed = 0
-    for case in cases:
+    def in_own_session(case):
         session = XSession()
         try:
             case(session, binary)
-            print(f"PASS {case.__name__}")
-        except AssertionError as error:
-            failed += 1
-            print(f"FAIL {case.__name__}: {error}")
         finally:
             session.close()
-    print(f"{len(cases) - failed} passed, {failed} failed")
-    return 1 if failed else 0
+
+    cases = [opens_centred_and_ends_on_quit, lives_on_until_the_last_window_closes]
+    return run_cases(cases, in_own_session)
 
 
 if __name__ == "__main__":

@@ -95,3 +95,18 @@ class XSession:
                                              data=(32, [delete, X.CurrentTime, 0, 0, 0]))
         win.send_event(event)
         self.dpy.flush()
+
+
+def run_cases(cases, run_one):
+    """Runs each case through run_one, prints a line for each and the totals; returns the
+    exit status of the whole run."""
+    failed = 0
+    for case in cases:
+        try:
+            run_one(case)
+            print(f"PASS {case.__name__}")
+        except AssertionError as error:
+            failed += 1
+            print(f"FAIL {case.__name__}: {error}")
+    print(f"{len(cases) - failed} passed, {failed} failed")
+    return 1 if failed else 0
