@@ -48,6 +48,7 @@ private:
     void moveASlider();
     void chooseInAPopup();
     void useAMenu();
+    void clickAButtonOrLabel();
     void quitAndStartAgain();
 
     static QList<Window*> openWindows();
@@ -201,6 +202,26 @@ void TestSession::useAMenu()
     QCoreApplication::processEvents();
 }
 
+// The "?" buttons, RAZ and Copier, the labels that show tips; the pointer then leaves.
+void TestSession::clickAButtonOrLabel()
+{
+    Window* window = anyWindow();
+    if (!window)
+        return;
+    QWidget* target = pick(2) ? static_cast<QWidget*>(anyControl<PushButton>(*window))
+                              : static_cast<QWidget*>(anyControl<StaticText>(*window));
+    if (pick(3) == 0)
+        target = anyControl<BevelButton>(*window);
+    if (!target)
+        return;
+    QTest::mouseClick(target, Qt::LeftButton);
+    if (pick(2)) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(target, &leave);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void TestSession::quitAndStartAgain()
 {
     if (Window* window = anyWindow())
@@ -224,10 +245,15 @@ void TestSession::randomSession()
         const char* name;
     };
     static const Weighted weighted[] = {
-        {&TestSession::openFromMainWindow, 8, "open"}, {&TestSession::closeAnyWindow, 4, "close"},
-        {&TestSession::typeAKey, 30, "key"},           {&TestSession::turnTheWheel, 12, "wheel"},
-        {&TestSession::pressAnArrow, 10, "arrow"},     {&TestSession::moveASlider, 10, "slider"},
-        {&TestSession::chooseInAPopup, 12, "popup"},   {&TestSession::useAMenu, 5, "menu"},
+        {&TestSession::openFromMainWindow, 8, "open"},
+        {&TestSession::closeAnyWindow, 4, "close"},
+        {&TestSession::typeAKey, 30, "key"},
+        {&TestSession::turnTheWheel, 12, "wheel"},
+        {&TestSession::pressAnArrow, 10, "arrow"},
+        {&TestSession::moveASlider, 10, "slider"},
+        {&TestSession::chooseInAPopup, 12, "popup"},
+        {&TestSession::useAMenu, 5, "menu"},
+        {&TestSession::clickAButtonOrLabel, 6, "click"},
         {&TestSession::quitAndStartAgain, 1, "quit"},
     };
     int total = 0;
