@@ -84,18 +84,12 @@ void TestCleinsee::keys_data()
     QTest::newRow("keypad Enter, fewer digits") << u"123\n"_s << u"123"_s << u"71"_s;
     QTest::newRow("beyond 2^32, read exactly")
         << u"4294967296001\r"_s << u"4294967296001"_s << u"16"_s;
-    QTest::newRow("largest number, read exactly")
-        << u"9999999999999\r"_s << u"9999999999999"_s << u"83"_s;
     QTest::newRow("the 13th digit alone does not compute")
         << u"1234567890123"_s << u"1234567890123"_s << u""_s;
     QTest::newRow("the key after the 13th does")
         << u"1234567890123>"_s << u"1234567890123"_s << u"11"_s;
     QTest::newRow("Backspace on 13 digits computes before deleting")
         << u"1234567890123\b"_s << u"123456789012"_s << u"11"_s;
-    QTest::newRow("the key stays while the number is edited")
-        << u"1234567890123\r\b\b"_s << u"12345678901"_s << u"11"_s;
-    QTest::newRow("Return after an edit computes anew")
-        << u"1234567890123\b\r"_s << u"123456789012"_s << u"79"_s;
 }
 
 void TestCleinsee::keys()
@@ -113,10 +107,8 @@ void TestCleinsee::copyButtonFollowsOneKeyBehind_data()
     QTest::addColumn<QString>("keys");
     QTest::addColumn<bool>("enabled");
 
-    QTest::newRow("at open") << u""_s << false;
     QTest::newRow("first digit") << u"1"_s << false;
     QTest::newRow("second digit") << u"12"_s << true;
-    QTest::newRow("one digit deleted") << u"12\b"_s << true;
     QTest::newRow("last digit deleted") << u"12\b\b"_s << true;
     QTest::newRow("next key on the empty field") << u"12\b\b>"_s << false;
     QTest::newRow("first digit of a new number") << u"12\b\b5"_s << false;

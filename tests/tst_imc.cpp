@@ -88,20 +88,16 @@ void TestImc::results_data()
 
     QTest::newRow("exactly 40 is not above 40")
         << u"150"_s << u"90"_s << u"40.0"_s << u"obésité sévère"_s << u""_s << u""_s << u""_s;
-    QTest::newRow("severe") << u"180"_s << u"120"_s << u"37.0"_s << u"obésité sévère"_s << u""_s
-                            << u""_s << u""_s;
     QTest::newRow("above 40") << u"150"_s << u"91"_s << u"40.4"_s << u"obésité morbide"_s << u""_s
                               << u""_s << u""_s;
     QTest::newRow("moderate") << u"170"_s << u"90"_s << u"31.1"_s << u"obésité modérée"_s << u""_s
                               << u""_s << u""_s;
-    QTest::newRow("rounds up onto 25")
-        << u"125"_s << u"39"_s << u"25.0"_s << u"surpoids"_s << u""_s << u""_s << u""_s;
     QTest::newRow("lean") << u"180"_s << u"58"_s << u"17.9"_s << u"maigreur"_s << u""_s << u""_s
                           << u""_s;
+    QTest::newRow("rounds up onto 25")
+        << u"125"_s << u"39"_s << u"25.0"_s << u"surpoids"_s << u""_s << u""_s << u""_s;
     QTest::newRow("undernourished")
         << u"160"_s << u"40"_s << u"15.6"_s << u"dénutrition"_s << u""_s << u""_s << u""_s;
-    QTest::newRow("tall and light")
-        << u"200"_s << u"60"_s << u"15.0"_s << u"dénutrition"_s << u""_s << u""_s << u""_s;
     QTest::newRow("halfway ideal weights")
         << u"160"_s << u"60"_s << u"23.4"_s << u"corpulence normale"_s << u""_s << u"55.8 51.3"_s
         << u""_s;
@@ -122,8 +118,6 @@ void TestImc::results_data()
                                     << u"<0 0-0 0-0 0-0 0-0 0-0 >0"_s << u""_s << u""_s;
     QTest::newRow("weight 0") << u"170"_s << u"0"_s << u"0.0"_s << u"dénutrition"_s << u""_s
                               << u""_s << u"0.0 0.0"_s;
-    QTest::newRow("emptied weight")
-        << u"170"_s << u""_s << u"0.0"_s << u"dénutrition"_s << u""_s << u""_s << u"0.0 0.0"_s;
 }
 
 void TestImc::results()
@@ -173,9 +167,6 @@ void TestImc::stepping_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("up key") << u"taille"_s << u"170"_s << u"key up"_s << u"171"_s;
-    QTest::newRow("down key") << u"poids"_s << u"70"_s << u"key down"_s << u"69"_s;
-    QTest::newRow("up key at the upper limit")
-        << u"taille"_s << u"250"_s << u"key up"_s << u"250"_s;
     QTest::newRow("down key at the lower limit")
         << u"taille"_s << u"50"_s << u"key down"_s << u"50"_s;
     QTest::newRow("weight stops at 30") << u"poids"_s << u"30"_s << u"arrow down"_s << u"30"_s;
@@ -191,8 +182,6 @@ void TestImc::stepping_data()
     QTest::newRow("empty, down") << u"taille"_s << u""_s << u"key down"_s << u"50"_s;
     QTest::newRow("wheel away on the arrows")
         << u"taille"_s << u"180"_s << u"arrows wheel away"_s << u"181"_s;
-    QTest::newRow("wheel towards on the arrows")
-        << u"poids"_s << u"80"_s << u"arrows wheel towards"_s << u"79"_s;
     QTest::newRow("a big wheel step is one step")
         << u"poids"_s << u"80"_s << u"wheel far away"_s << u"81"_s;
     QTest::newRow("a sideways wheel does nothing")
@@ -229,8 +218,6 @@ void TestImc::stepping()
         wheel(edit, 0, 120);
     else if (how == u"arrows wheel away"_s)
         wheel(arrows, 120);
-    else if (how == u"arrows wheel towards"_s)
-        wheel(arrows, -120);
     else if (how == u"arrow up"_s || how == u"arrow down"_s) {
         const QPoint at(arrows.width() / 2, how == u"arrow up"_s ? 3 : arrows.height() - 3);
         QTest::mouseClick(&arrows, Qt::LeftButton, {}, at);

@@ -74,8 +74,6 @@ private Q_SLOTS:
 
     void opensCentredInTheFreeArea();
     void showsTodaysDateInTheLocalesShortForm();
-    void buttons_data();
-    void buttons();
     void oneWindowPerCalculator();
     void infosTextLineByLine();
     void infosOpensFromTheMainWindowOnly();
@@ -98,32 +96,6 @@ void TestLauncher::showsTodaysDateInTheLocalesShortForm()
     useLocale(QLocale::French);
     QCOMPARE(Window1().control<StaticText>(u"sbdate").text(),
              QDate::currentDate().toString(u"dd/MM/yyyy"_s));
-}
-
-void TestLauncher::buttons_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QString>("helpTag");
-    QTest::newRow("1") << u"BevelButton1"_s << u"Echelle de Norton"_s
-                       << u"Estimation du risque d'escarre"_s;
-    QTest::newRow("2") << u"BevelButton2"_s << u"Clé insee"_s << u""_s;
-    QTest::newRow("3") << u"BevelButton3"_s << u"IMC"_s << u""_s;
-    QTest::newRow("4") << u"BevelButton4"_s << u"Echelle Visuelle"_s << u"Echelle visuelle 3m"_s;
-    QTest::newRow("5") << u"BevelButton5"_s << u"Surface corporelle"_s << u""_s;
-    QTest::newRow("6") << u"BevelButton6"_s << u"Poids idéal"_s << u""_s;
-    QTest::newRow("7") << u"BevelButton7"_s << u"Chrono"_s << u"Chrono"_s;
-}
-
-void TestLauncher::buttons()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, caption);
-    QFETCH(QString, helpTag);
-    const auto& button = Window1().control<BevelButton>(name);
-    QCOMPARE(button.text(), caption);
-    QCOMPARE(button.toolTip(), helpTag);
-    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
 }
 
 void TestLauncher::oneWindowPerCalculator()

@@ -134,9 +134,7 @@ void TestLumetra::densityGuess_data()
     QTest::addColumn<double>("pixelsPerMm");
     QTest::newRow("96 dpi") << 96.0 << 1.0 << 3.7795;
     QTest::newRow("scaled twice, in device pixels") << 96.0 << 2.0 << 7.5591;
-    QTest::newRow("no size reported") << 0.0 << 1.0 << 3.7795;
     QTest::newRow("not a number") << notANumber << 1.0 << 3.7795;
-    QTest::newRow("a projector's nonsense") << 5000.0 << 1.0 << 3.7795;
 }
 
 void TestLumetra::densityGuess()
@@ -154,7 +152,6 @@ void TestLumetra::densityBounds_data()
     QTest::addColumn<double>("kept");
     QTest::newRow("believable") << 3.78 << 1280.0 << 3.78;
     QTest::newRow("card wider than the screen") << 20.0 << 1284.0 << 15.0;
-    QTest::newRow("too small") << 0.2 << 1280.0 << minPixelsPerMm;
     QTest::newRow("not a number") << notANumber << 1280.0 << minPixelsPerMm;
     QTest::newRow("window narrower than any card") << 5.0 << 40.0 << minPixelsPerMm;
 }
@@ -186,7 +183,6 @@ void TestLumetra::chartLines_data()
     QTest::addColumn<bool>("whole");
     QTest::addColumn<double>("height");
     QTest::addColumn<QList<int>>("shown");
-    QTest::newRow("all fit") << 5 << true << 1000.0 << QList{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
     QTest::newRow("from the largest down") << 1 << true << 600.0 << QList{1, 2, 3, 4};
     QTest::newRow("smaller ones first") << 3 << true << 600.0 << QList{3, 4, 5, 6, 7, 8, 9, 10};
     QTest::newRow("then larger ones") << 10 << true << 300.0 << QList{5, 6, 7, 8, 9, 10};
@@ -224,9 +220,7 @@ void TestLumetra::lettersPerLine_data()
     QTest::addColumn<double>("width");
     QTest::addColumn<int>("count");
     QTest::newRow("five letters, four gaps") << 100.0 << 900.0 << 5;
-    QTest::newRow("a pixel short") << 100.0 << 899.0 << 4;
     QTest::newRow("wider than the screen") << 100.0 << 50.0 << 1;
-    QTest::newRow("no width") << 100.0 << -5.0 << 1;
     QTest::newRow("not a number") << notANumber << 100.0 << 1;
 }
 
@@ -313,7 +307,6 @@ void TestLumetra::drawnLettersHaveTheirHeight_data()
     QTest::addColumn<int>("tenths");
     QTest::addColumn<double>("px"); // at 4 pixels per millimetre
     QTest::newRow("1/10") << 1 << 174.53;
-    QTest::newRow("4/10") << 4 << 43.63;
     QTest::newRow("10/10") << 10 << 17.45;
 }
 

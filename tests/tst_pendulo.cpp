@@ -100,8 +100,6 @@ void TestPendulo::stopwatch_data()
         << u"start@0 stop@1500 start@2000 at@2600"_s << 2100LL << true << u""_s;
     QTest::newRow("a second start changes nothing")
         << u"start@0 start@1000 at@2000"_s << 2000LL << true << u""_s;
-    QTest::newRow("a second stop changes nothing")
-        << u"start@0 stop@1000 stop@3000 at@4000"_s << 1000LL << false << u""_s;
     QTest::newRow("laps over a pause")
         << u"start@0 lap@1200 lap@2000 stop@2500 start@3000 lap@3500"_s << 3000LL << true
         << u"1:1200/1200 2:800/2000 3:1000/3000"_s;
@@ -130,9 +128,7 @@ void TestPendulo::rateFromTaps_data()
     QTest::addColumn<double>("rate"); // 0: none yet
     QTest::addColumn<int>("counted");
     QTest::newRow("one tap") << QList<qint64>{0} << 0.0 << 1;
-    QTest::newRow("a second apart") << QList<qint64>{0, 1000} << 60.0 << 2;
     QTest::newRow("steady 75") << QList<qint64>{0, 800, 1600, 2400} << 75.0 << 4;
-    QTest::newRow("same instant") << QList<qint64>{500, 500} << 0.0 << 2;
     QTest::newRow("the longest pause kept") << QList<qint64>{0, 3000} << 20.0 << 2;
     QTest::newRow("a longer pause starts afresh")
         << QList<qint64>{0, 500, 1000, 4001, 5001} << 60.0 << 2;
@@ -160,12 +156,9 @@ void TestPendulo::shownTimes_data()
     QTest::addColumn<QString>("elapsed");
     QTest::addColumn<QString>("remaining");
     QTest::newRow("zero") << 0LL << u"00:00,0"_s << u"00:00,0"_s;
-    QTest::newRow("a millisecond") << 1LL << u"00:00,0"_s << u"00:00,1"_s;
-    QTest::newRow("just under a tenth") << 99LL << u"00:00,0"_s << u"00:00,1"_s;
     QTest::newRow("a tenth") << 100LL << u"00:00,1"_s << u"00:00,1"_s;
     QTest::newRow("countdown just started") << 14901LL << u"00:14,9"_s << u"00:15,0"_s;
     QTest::newRow("last tenth of a minute") << 59999LL << u"00:59,9"_s << u"01:00,0"_s;
-    QTest::newRow("a minute") << 60000LL << u"01:00,0"_s << u"01:00,0"_s;
     QTest::newRow("under an hour") << 3599999LL << u"59:59,9"_s << u"1:00:00,0"_s;
     QTest::newRow("hours in front") << 37230400LL << u"10:20:30,4"_s << u"10:20:30,4"_s;
     QTest::newRow("negative") << -5LL << u"00:00,0"_s << u"00:00,0"_s;
@@ -214,7 +207,6 @@ void TestPendulo::countdownBeepsOnceAtItsEnd_data()
     QTest::addColumn<Qt::Key>("key");
     QTest::addColumn<qint64>("length");
     QTest::newRow("15 s") << Qt::Key_1 << 15000LL;
-    QTest::newRow("30 s") << Qt::Key_3 << 30000LL;
     QTest::newRow("60 s") << Qt::Key_6 << 60000LL;
 }
 

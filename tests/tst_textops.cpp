@@ -19,14 +19,10 @@ private Q_SLOTS:
     void formatUsesTheLocalesMark();
     void strSingle_data();
     void strSingle();
-    void strWholeNumbers();
     void val_data();
     void val();
-    void valReadsWhatFormatWrote_data();
-    void valReadsWhatFormatWrote();
     void fields_data();
     void fields();
-    void characters();
     void truncation_data();
     void truncation();
 };
@@ -41,22 +37,17 @@ void TestTextOps::format_data()
     QTest::newRow("exact half, odd") << 55.75 << u"0.0"_s << u"55.8"_s;
     QTest::newRow("exact half, even") << 51.25 << u"0.0"_s << u"51.3"_s;
     QTest::newRow("whole, rounds up") << 47.685 << u"0"_s << u"48"_s;
-    QTest::newRow("one decimal") << 64.734375 << u"0.0"_s << u"64.7"_s;
     QTest::newRow("two decimals") << 1.8097 << u"0.00"_s << u"1.81"_s;
     QTest::newRow("binary just below half") << 2.675 << u"0.00"_s << u"2.67"_s;
-    QTest::newRow("binary just below half, 0.15") << 0.15 << u"0.0"_s << u"0.1"_s;
     QTest::newRow("binary just above half") << 0.05 << u"0.0"_s << u"0.1"_s;
     QTest::newRow("carry into a new digit") << 99.95 << u"0.0"_s << u"100.0"_s;
     QTest::newRow("carry, whole") << 999.5 << u"0"_s << u"1000"_s;
-    QTest::newRow("trailing zeros kept") << 2.0 << u"0.00"_s << u"2.00"_s;
-    QTest::newRow("large value") << 1e7 << u"0.00"_s << u"10000000.00"_s;
     QTest::newRow("negative") << -525.0 << u"0.0"_s << u"-525.0"_s;
     QTest::newRow("negative half away from zero") << -0.25 << u"0.0"_s << u"-0.3"_s;
     QTest::newRow("negative rounding to zero") << -0.04 << u"0.0"_s << u"0.0"_s;
     QTest::newRow("negative zero") << -0.0 << u"0"_s << u"0"_s;
     QTest::newRow("single widened") << double(24.221453f) << u"0.0"_s << u"24.2"_s;
     QTest::newRow("infinite") << inf << u"0.0"_s << u"\u2014"_s;
-    QTest::newRow("minus infinite") << -inf << u"0"_s << u"\u2014"_s;
     QTest::newRow("undefined") << std::numeric_limits<double>::quiet_NaN() << u"0.00"_s
                                << u"\u2014"_s;
 }
@@ -87,13 +78,11 @@ void TestTextOps::strSingle_data()
     QTest::newRow("seven digits show the step") << 86.39999f << u"86.39999"_s;
     QTest::newRow("no eighth digit") << 11.475f << u"11.475"_s;
     QTest::newRow("whole") << 170.0f << u"170"_s;
-    QTest::newRow("half") << 57.5f << u"57.5"_s;
     QTest::newRow("zero") << 0.0f << u"0"_s;
     QTest::newRow("negative zero") << -0.0f << u"0"_s;
     QTest::newRow("negative") << -2.5f << u"-2.5"_s;
     QTest::newRow("no exponent, large") << 1e7f << u"10000000"_s;
     QTest::newRow("no exponent, rounded to seven digits") << 123456789.0f << u"123456800"_s;
-    QTest::newRow("no exponent, small") << 1.5e-5f << u"0.000015"_s;
     QTest::newRow("infinite") << std::numeric_limits<float>::infinity() << u"\u2014"_s;
 }
 
@@ -102,15 +91,6 @@ void TestTextOps::strSingle()
     QFETCH(float, value);
     QFETCH(QString, expected);
     QCOMPARE(Str(value), expected);
-}
-
-void TestTextOps::strWholeNumbers()
-{
-    QCOMPARE(Str(Int32(250)), u"250"_s);
-    QCOMPARE(Str(Int32(-7)), u"-7"_s);
-    QCOMPARE(Str(Int64(9223372036854775807)), u"9223372036854775807"_s);
-    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-    QCOMPARE(Str(Int32(12345)), u"12345"_s);
 }
 
 void TestTextOps::val_data()
@@ -123,15 +103,11 @@ void TestTextOps::val_data()
     QTest::newRow("comma") << u"24,2"_s << 24.2;
     QTest::newRow("same double as the constant") << u"34.9"_s << 34.9;
     QTest::newRow("thirteen digits") << u"1234567890123"_s << 1234567890123.0;
-    QTest::newRow("thirteen nines") << u"9999999999999"_s << 9999999999999.0;
     QTest::newRow("negative") << u"-43.1"_s << -43.1;
-    QTest::newRow("leading blanks") << u"  12"_s << 12.0;
     QTest::newRow("number then letters") << u"12abc"_s << 12.0;
     QTest::newRow("letters") << u"abc"_s << 0.0;
     QTest::newRow("dash of a non-finite value") << u"\u2014"_s << 0.0;
     QTest::newRow("exponent") << u"1e3"_s << 1000.0;
-    QTest::newRow("a lone mark") << u"."_s << 0.0;
-    QTest::newRow("mark without digits after") << u"5."_s << 5.0;
     QTest::newRow("mark first") << u",5"_s << 0.5;
     QTest::newRow("non-ASCII digits are not read") << u"\u0663"_s << 0.0;
 }
@@ -141,28 +117,6 @@ void TestTextOps::val()
     QFETCH(QString, text);
     QFETCH(double, expected);
     QCOMPARE(Val(text), expected);
-}
-
-void TestTextOps::valReadsWhatFormatWrote_data()
-{
-    QTest::addColumn<bool>("french");
-    QTest::addColumn<double>("value");
-    for (const bool french : {false, true}) {
-        const char* locale = french ? "fr" : "C";
-        for (const double value : {24.96, 34.94, 18.45, -657.5, 0.0}) {
-            QTest::addRow("%s %g", locale, value) << french << value;
-        }
-    }
-}
-
-void TestTextOps::valReadsWhatFormatWrote()
-{
-    QFETCH(bool, french);
-    QFETCH(double, value);
-    if (french)
-        QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-    const QString shown = Format(value, u"0.0");
-    QCOMPARE(Val(shown), QLocale::c().toDouble(Format(value, u"0.0").replace(u',', u'.')));
 }
 
 void TestTextOps::fields_data()
@@ -190,24 +144,12 @@ void TestTextOps::fields()
     QCOMPARE(NthField(text, u",", index), field);
 }
 
-void TestTextOps::characters()
-{
-    QCOMPARE(Chr(13), u"\r"_s);
-    QCOMPARE(Chr(30).at(0).unicode(), char16_t(30));
-    QCOMPARE(Len(u"Numéro"), 6);
-    QCOMPARE(Len(u""), 0);
-    QCOMPARE(Pow(0, 0.725), 0.0);
-    QCOMPARE(Pow(1.7, 2), 1.7 * 1.7);
-    QVERIFY(!EndOfLine().isEmpty());
-}
-
 void TestTextOps::truncation_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<qint64>("int32");
     QTest::addColumn<qint64>("int64");
     QTest::newRow("fraction dropped") << 170.9 << qint64(170) << qint64(170);
-    QTest::newRow("towards zero") << -2.7 << qint64(-2) << qint64(-2);
     QTest::newRow("thirteen digits")
         << 1234567890123.0 << qint64(2147483647) << qint64(1234567890123);
     QTest::newRow("undefined") << std::numeric_limits<double>::quiet_NaN() << qint64(0)
