@@ -47,6 +47,15 @@ int visibleWindowsTitled(const QString& title)
 }
 
 // A program that leaves a mark beside itself when it runs.
+#ifdef Q_OS_WIN
+QString writeProbe(const QString& folder, const QString& name)
+{
+    const QString path = QDir(folder).filePath(name + u".exe"_s);
+    const QString probe =
+        QDir(QCoreApplication::applicationDirPath()).filePath(u"launchprobe.exe"_s);
+    return QFile::copy(probe, path) ? path : QString();
+}
+#else
 QString writeProbe(const QString& folder, const QString& name)
 {
     const QString path = QDir(folder).filePath(name);
@@ -58,6 +67,7 @@ QString writeProbe(const QString& folder, const QString& name)
     script.setPermissions(script.permissions() | QFile::ExeOwner);
     return path;
 }
+#endif
 
 } // namespace
 
@@ -74,6 +84,7 @@ private Q_SLOTS:
 
     void opensCentredInTheFreeArea();
     void showsTodaysDateInTheLocalesShortForm();
+    void followsTheSystemsFrenchLocale();
     void oneWindowPerCalculator();
     void infosTextLineByLine();
     void infosOpensFromTheMainWindowOnly();
@@ -96,6 +107,21 @@ void TestLauncher::showsTodaysDateInTheLocalesShortForm()
     useLocale(QLocale::French);
     QCOMPARE(Window1().control<StaticText>(u"sbdate").text(),
              QDate::currentDate().toString(u"dd/MM/yyyy"_s));
+}
+
+// The locale as the system itself reports it, which the other tests replace by their
+// own; run with VORKAN_SYSTEM_LOCALE=fr_FR on a system set to French.
+void TestLauncher::followsTheSystemsFrenchLocale()
+{
+    const QString locale = qEnvironmentVariable("VORKAN_SYSTEM_LOCALE");
+    if (locale.isEmpty())
+        QSKIP("VORKAN_SYSTEM_LOCALE names no system locale");
+    QCOMPARE(locale, u"fr_FR"_s);
+    QLocale::setDefault(QLocale::system());
+    QCOMPARE(QLocale::system().name(), locale);
+    QCOMPARE(Window1().control<StaticText>(u"sbdate").text(),
+             QDate::currentDate().toString(u"dd/MM/yyyy"_s));
+    QCOMPARE(imc().control<TextField>(u"imct").text(), u"24,2"_s); // 170 cm, 70 kg
 }
 
 void TestLauncher::oneWindowPerCalculator()
