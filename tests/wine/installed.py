@@ -1,0 +1,68 @@
+"""The MSI as a user meets it under Wine: installed for all users, the program started from
+its Start-menu shortcut, its two companions started from its buttons, then removed. The
+cases run in this order, each on what the one before left."""
+
+import time
+
+from wineprefix import windows_path
+
+MAIN_HEIGHT = 202  # the main window's client area, below its menu bar
+COMPANIONS = [((307, 35), "Échelle visuelle 3 m"), ((307, 78), "Chrono")]
+
+
+def program_folder(wine):
+    return wine.drive_c() / "Program Files" / "Vorkan MAC"
+
+
+def shortcut(wine):
+    return (wine.drive_c() / "ProgramData" / "Microsoft" / "Windows" / "Start Menu"
+            / "Programs" / "Vorkan MAC.lnk")
+
+
+def msiexec(wine, action, msi):
+    status = wine.run("msiexec", "/qn", action, windows_path(msi), timeout=300).returncode
+    assert status == 0, f"msiexec {action} ended with status {status}"
+
+
+def click_button(session, main, left, top):
+    x, y, _, height = session.geometry(main)
+    y += height - MAIN_HEIGHT
+    session.xdotool("mousemove", "--sync", str(x + left + 63), str(y + top + 15), "click", "1")
+
+
+def installs_into_program_files_with_a_shortcut(wine, session, msi):
+    msiexec(wine, "/i", msi)
+    for name in ("vorkan-mac.exe", "lumetra.app.exe", "pendulo.app.exe",
+                 "platforms/qwindows.dll"):
+        assert (program_folder(wine) / name).is_file(), f"{name} is not installed"
+    assert shortcut(wine).is_file(), "no shortcut in the Start menu"
+
+
+def shortcut_starts_the_program_and_its_companions(wine, session, msi):
+    wine.start("start", "/unix", str(shortcut(wine)))
+    main = session.wait_for_window("Vorkan MAC", timeout=60)
+    time.sleep(1)
+    for (left, top), title in COMPANIONS:
+        click_button(session, main, left, top)
+        companion = session.wait_for_window(title, timeout=60)
+        # The chart fills the screen: it goes before the next button is clicked.
+        session.close_window(companion)
+        wait_until_gone(session, title)
+
+
+def wait_until_gone(session, title, timeout=30):
+    deadline = time.monotonic() + timeout
+    while session.windows_named(title):
+        assert time.monotonic() < deadline, f"the window {title!r} did not close"
+        time.sleep(0.1)
+
+
+def uninstalls_without_a_trace(wine, session, msi):
+    wine.stop()
+    msiexec(wine, "/x", msi)
+    assert not program_folder(wine).exists(), "the program folder is left after removal"
+    assert not shortcut(wine).exists(), "the shortcut is left after removal"
+
+
+CASES = [installs_into_program_files_with_a_shortcut,
+         shortcut_starts_the_program_and_its_companions, uninstalls_without_a_trace]
