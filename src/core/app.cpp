@@ -1,6 +1,7 @@
 #include "app.h"
 
 #include "accessibility.h"
+#include "core/version.h"
 
 #include <QMessageBox>
 
@@ -15,6 +16,7 @@ App::App(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(u"Vorkan MAC"_s);
     setOrganizationName(u"Vorkan"_s);
+    setApplicationVersion(QStringLiteral(VORKAN_VERSION));
     installAccessibility();
 }
 
