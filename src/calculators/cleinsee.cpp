@@ -23,7 +23,7 @@ constexpr LayoutRow layoutTable[] = {
      {20, 36, 126, 22},
      2,
      u"",
-     {.maskDigits = 13, .label = u"StaticText2"}},
+     {.maskDigits = 13, .groupedDigits = true, .label = u"StaticText2"}},
     {u"TextField2",
      Kind::TextField,
      {158, 36, 38, 22},

@@ -2,6 +2,7 @@
 
 #include "accessibility.h"
 #include "core/version.h"
+#include "platform.h"
 
 #include <QMessageBox>
 
@@ -18,6 +19,11 @@ App::App(int& argc, char** argv) : QApplication(argc, argv)
     setOrganizationName(u"Vorkan"_s);
     setApplicationVersion(QStringLiteral(VORKAN_VERSION));
     installAccessibility();
+}
+
+App::~App()
+{
+    Tooltip::release();
 }
 
 void App::Event_Open()

@@ -1,12 +1,15 @@
 #include "controls.h"
 
 #include "accessibility.h"
+#include "digitmask.h"
+#include "platform.h"
 #include "textops.h"
+#include "tipwidget.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -35,22 +38,112 @@ QString keyText(const QKeyEvent& event)
     }
 }
 
+// Shift, Ctrl, Alt, AltGr, Meta and the lock keys change what the next key types; on
+// their own they are no key of the field's.
+bool isModifierAlone(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_Mode_switch:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A key that types a character, as a line edit tells one: not Return, Tab or the
+// like, and not a Ctrl shortcut (Ctrl with Alt is AltGr on Windows, which types).
+bool typesText(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return !event.text().isEmpty() && event.text().front().isPrint() &&
+           held != Qt::ControlModifier && held != Qt::MetaModifier;
+}
+
 } // namespace
 
 TextField::TextField(QWidget* parent) : RectControl(parent) {}
 
-void TextField::setDigitMask(int digits)
+void TextField::setDigitMask(int digits, bool grouped)
 {
-    setMaxLength(digits);
-    setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,%1}"_s.arg(digits)), this));
+    if (!grouped)
+        setMaxLength(digits);
+    mask_ = new DigitMask(digits, grouped, this);
+    setValidator(mask_);
 }
 
-void TextField::keyPressEvent(QKeyEvent* event)
+bool TextField::event(QEvent* event)
 {
-    if (KeyDown && KeyDown(*this, keyText(*event)))
+    if (event->type() == QEvent::KeyPress && keyDown(static_cast<QKeyEvent&>(*event)))
+        return true;
+    return RectControl::event(event);
+}
+
+// Runs KeyDown, then holds back a key the mask refuses; true when the key is dealt with.
+bool TextField::keyDown(QKeyEvent& event)
+{
+    if (isModifierAlone(event))
+        return false;
+    hideBalloon();
+    if (KeyDown && KeyDown(*this, keyText(event)))
+        return true;
+    if (!mask_ || isReadOnly())
+        return false;
+    if (event.matches(QKeySequence::Paste)) {
+        const QString before = text();
+        QLineEdit::keyPressEvent(&event);
+        const QString pasted = QGuiApplication::clipboard()->text();
+        if (text() == before && !pasted.isEmpty())
+            refuse(mask_->refusal(*this, pasted));
+        return true;
+    }
+    if (!typesText(event))
+        return false;
+    const QString why = mask_->refusal(*this, event.text());
+    if (why.isEmpty())
+        return false;
+    refuse(why);
+    return true;
+}
+
+void TextField::refuse(const QString& why)
+{
+    if (why.isEmpty())
         return;
-    QLineEdit::keyPressEvent(event);
+    QApplication::beep();
+    if (!balloon_)
+        balloon_ = new TipWidget(window());
+    constexpr int balloonMs = 4000;
+    balloon_->showAt(why, mapToGlobal(QPoint(0, height() + 2)), balloonMs);
+}
+
+void TextField::hideBalloon()
+{
+    if (balloon_)
+        balloon_->hide();
+}
+
+const QLabel* TextField::balloon() const
+{
+    return balloon_ && balloon_->isVisible() ? balloon_.data() : nullptr;
+}
+
+void TextField::focusOutEvent(QFocusEvent* event)
+{
+    hideBalloon();
+    QLineEdit::focusOutEvent(event);
 }
 
 void TextField::keyReleaseEvent(QKeyEvent* event)
@@ -127,12 +220,20 @@ void StaticText::leaveEvent(QEvent* event)
 
 BevelButton::BevelButton(QWidget* parent) : RectControl(parent)
 {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
     connect(this, &QPushButton::clicked, this, [this] {
         if (Action)
             Action(*this);
     });
+}
+
+void BevelButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 PushButton::PushButton(QWidget* parent) : RectControl(parent)
@@ -149,6 +250,26 @@ void PushButton::leaveEvent(QEvent* event)
     QPushButton::leaveEvent(event);
     if (MouseExit)
         MouseExit(*this);
+}
+
+void PushButton::keyPressEvent(QKeyEvent* event)
+{
+    pressedFromKeyboard_ = true;
+    QPushButton::keyPressEvent(event);
+}
+
+void PushButton::mousePressEvent(QMouseEvent* event)
+{
+    pressedFromKeyboard_ = false;
+    QPushButton::mousePressEvent(event);
+}
+
+void PushButton::focusOutEvent(QFocusEvent* event)
+{
+    QPushButton::focusOutEvent(event);
+    if (pressedFromKeyboard_ && !underMouse())
+        Tooltip::Hide();
+    pressedFromKeyboard_ = false;
 }
 
 PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)

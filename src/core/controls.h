@@ -14,6 +14,9 @@
 
 namespace vorkan {
 
+class DigitMask;
+class TipWidget;
+
 // What every control of a window can do beyond its Qt base.
 template<class Base> class RectControl : public Base {
 public:
@@ -24,25 +27,40 @@ public:
     void Refresh(bool /*now*/ = true) { this->update(); }
 };
 
-// A one-line field. KeyDown runs before the field sees the key, so the text is still
-// the one from before the key, also for a key the field will refuse.
+// A one-line field. KeyDown runs before the field sees the key, Tab included, so the
+// text is still the one from before the key, also for a key the field will refuse; a
+// modifier pressed alone is no key. A key or a paste that the mask refuses beeps and
+// says why in a balloon below the field, until the next key or for a few seconds.
 class TextField : public RectControl<QLineEdit> {
     Q_OBJECT
 
 public:
     explicit TextField(QWidget* parent);
 
-    // Up to that many digits and nothing else.
-    void setDigitMask(int digits);
+    // Up to that many digits and nothing else; a grouped field takes a pasted number
+    // written in groups as its digits.
+    void setDigitMask(int digits, bool grouped = false);
+
+    // The balloon while it is up, else null.
+    const QLabel* balloon() const;
 
     std::function<bool(TextField&, const QString& key)> KeyDown;
     std::function<void(TextField&, const QString& key)> KeyUp;
     std::function<bool(TextField&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool keyDown(QKeyEvent& event);
+    void refuse(const QString& why);
+    void hideBalloon();
+
+    DigitMask* mask_ = nullptr;
+    QPointer<TipWidget> balloon_;
 };
 
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
@@ -75,15 +93,21 @@ private:
     QString labelPrefix_;
 };
 
-// A button that never takes the keyboard focus.
+// A button that a click never gives the focus, so that typing goes on in the field
+// that had it; Tab reaches it, and Space or Return presses it.
 class BevelButton : public RectControl<QPushButton> {
     Q_OBJECT
 
 public:
     explicit BevelButton(QWidget* parent);
     std::function<void(BevelButton&)> Action;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
+// A button; one pressed from the keyboard, away from the pointer, lets the tip it
+// showed go when the focus leaves it, since no MouseExit will come.
 class PushButton : public RectControl<QPushButton> {
     Q_OBJECT
 
@@ -93,7 +117,13 @@ public:
     std::function<void(PushButton&)> MouseExit;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool pressedFromKeyboard_ = false;
 };
 
 // A pop-up list; ListIndex is -1 while no row is chosen, and shows blank.

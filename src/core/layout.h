@@ -50,7 +50,8 @@ struct ControlProps {
     int textSize = 0; // points; 0 keeps the application's size
     bool centred = false;
     bool readOnly = false;
-    int maskDigits = 0; // a Mask of that many "#"
+    int maskDigits = 0;         // a Mask of that many "#"
+    bool groupedDigits = false; // a pasted number may be written in groups of digits
     QStringView helpTag{};
     QStringView label{};          // the control whose caption names this one to assistive tools
     QStringView accessibleName{}; // a name for a control that has no visible label

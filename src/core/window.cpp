@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -62,6 +63,8 @@ Window::Window(const WindowProps& props)
     column->setSpacing(0);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(client_);
+    if (props.closesWithKey)
+        new QShortcut(QKeySequence::Close, this, this, &Window::Close);
 }
 
 Window::~Window()
@@ -153,8 +156,38 @@ void Window::handleMenuCommand(const MenuItem& item)
         handler();
 }
 
+// Where the client area lies inside the window's own geometry: below its menu bar.
+QPoint Window::clientOffset() const
+{
+    layout()->activate();
+    return client_->pos();
+}
+
+int Window::Left() const
+{
+    return geometry().x() + clientOffset().x();
+}
+
+int Window::Top() const
+{
+    return geometry().y() + clientOffset().y();
+}
+
+void Window::setLeft(int left)
+{
+    const QPoint offset = clientOffset();
+    setGeometry(QRect(QPoint(left - offset.x(), geometry().y()), size()));
+}
+
+void Window::setTop(int top)
+{
+    const QPoint offset = clientOffset();
+    setGeometry(QRect(QPoint(geometry().x(), top - offset.y()), size()));
+}
+
 void Window::Show()
 {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();

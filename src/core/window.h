@@ -26,6 +26,7 @@ struct WindowProps {
     int width; // of the client area, below any menu bar
     int height;
     bool maximizeButton = false;
+    bool closesWithKey = true; // the platform's Close key (Ctrl+W) closes it
 };
 
 // A top-level window of fixed size whose controls come from a layout table. It is
@@ -37,13 +38,16 @@ class Window : public QWidget {
 public:
     ~Window() override;
 
+    // Brings the window up and to the front, also from the task bar where it was
+    // minimised.
     void Show();
     void Close();
 
-    int Left() const { return x(); }
-    int Top() const { return y(); }
-    void setLeft(int left) { move(left, y()); }
-    void setTop(int top) { move(x(), top); }
+    // Where the client area stands on the screen, below the title bar and any menu bar.
+    int Left() const;
+    int Top() const;
+    void setLeft(int left);
+    void setTop(int top);
     int Width() const { return props_.width; }
     int Height() const { return props_.height; }
 
@@ -83,6 +87,7 @@ protected:
 private:
     friend class ImplicitWindows;
     void build();
+    QPoint clientOffset() const;
     void applyTabOrder(std::span<const LayoutRow> rows);
     QList<QMenu*> menus() const;
     void EnableMenuItems();

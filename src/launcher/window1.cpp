@@ -17,7 +17,8 @@ namespace vorkan {
 
 namespace {
 
-constexpr WindowProps props{u"Vorkan MAC", 445, 202, true};
+// The main window stays open on Ctrl+W: closing it may end the program.
+constexpr WindowProps props{u"Vorkan MAC", 445, 202, true, false};
 
 constexpr LayoutRow layoutTable[] = {
     {u"BevelButton1",
