@@ -1,13 +1,13 @@
 // How long the calculators take to answer, measured through their controls as a
 // user drives them: one calc, one key press in imc, opening a window.
-#include "calculators/cleinsee.h"
-#include "calculators/imc.h"
-#include "calculators/norton.h"
-#include "calculators/pideal.h"
-#include "calculators/surf.h"
-#include "core/app.h"
-#include "core/controls.h"
-#include "launcher/startup.h"
+#include "app.h"
+#include "cleinsee.h"
+#include "controls.h"
+#include "imc.h"
+#include "norton.h"
+#include "pideal.h"
+#include "startup.h"
+#include "surf.h"
 
 #include <QElapsedTimer>
 #include <QKeyEvent>

@@ -2,13 +2,13 @@
 // value, buttons by caption and help, and the keyboard's way through each window.
 #include "support.h"
 
-#include "calculators/cleinsee.h"
-#include "calculators/imc.h"
-#include "calculators/norton.h"
-#include "calculators/pideal.h"
-#include "calculators/surf.h"
-#include "core/controls.h"
-#include "launcher/window1.h"
+#include "cleinsee.h"
+#include "controls.h"
+#include "imc.h"
+#include "norton.h"
+#include "pideal.h"
+#include "surf.h"
+#include "window1.h"
 
 #include <QAccessible>
 

@@ -1,8 +1,8 @@
 #include "support.h"
 
-#include "calculators/cleinsee.h"
-#include "core/controls.h"
-#include "core/platform.h"
+#include "cleinsee.h"
+#include "controls.h"
+#include "platform.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

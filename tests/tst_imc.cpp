@@ -1,10 +1,10 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "core/controls.h"
-#include "core/platform.h"
-#include "core/textops.h"
-#include "core/updownarrows.h"
+#include "controls.h"
+#include "imc.h"
+#include "platform.h"
+#include "textops.h"
+#include "updownarrows.h"
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;

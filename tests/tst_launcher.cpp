@@ -1,11 +1,11 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "core/controls.h"
-#include "core/platform.h"
-#include "core/textops.h"
-#include "launcher/infos.h"
-#include "launcher/window1.h"
+#include "controls.h"
+#include "imc.h"
+#include "infos.h"
+#include "platform.h"
+#include "textops.h"
+#include "window1.h"
 
 #include <QAction>
 #include <QDate>

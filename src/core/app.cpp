@@ -1,8 +1,8 @@
 #include "app.h"
 
 #include "accessibility.h"
-#include "core/version.h"
 #include "platform.h"
+#include "version.h"
 
 #include <QMessageBox>
 

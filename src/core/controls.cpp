@@ -97,7 +97,7 @@ bool TextField::keyDown(QKeyEvent& event)
     if (isModifierAlone(event))
         return false;
     hideBalloon();
-    if (KeyDown && KeyDown(*this, keyText(event)))
+    if (KeyDown && KeyDown(keyText(event)))
         return true;
     if (!mask_ || isReadOnly())
         return false;
@@ -149,8 +149,7 @@ void TextField::focusOutEvent(QFocusEvent* event)
 void TextField::keyReleaseEvent(QKeyEvent* event)
 {
     QLineEdit::keyReleaseEvent(event);
-    if (KeyUp)
-        KeyUp(*this, keyText(*event));
+    Q_EMIT KeyUp(keyText(*event));
 }
 
 void TextField::wheelEvent(QWheelEvent* event)
@@ -158,7 +157,7 @@ void TextField::wheelEvent(QWheelEvent* event)
     // The framework counts a turn away from the user as a negative delta.
     const QPoint at = event->position().toPoint();
     const QPoint delta = event->angleDelta();
-    if (MouseWheel && MouseWheel(*this, at.x(), at.y(), -delta.x(), -delta.y()))
+    if (MouseWheel && MouseWheel(at.x(), at.y(), -delta.x(), -delta.y()))
         return;
     QLineEdit::wheelEvent(event);
 }
@@ -206,7 +205,7 @@ void StaticText::paintEvent(QPaintEvent*)
 void StaticText::mousePressEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
-    if (MouseDown && MouseDown(*this, at.x(), at.y()))
+    if (MouseDown && MouseDown(at.x(), at.y()))
         return;
     QLabel::mousePressEvent(event);
 }
@@ -214,18 +213,13 @@ void StaticText::mousePressEvent(QMouseEvent* event)
 void StaticText::leaveEvent(QEvent* event)
 {
     QLabel::leaveEvent(event);
-    if (MouseExit)
-        MouseExit(*this);
+    Q_EMIT MouseExit();
 }
 
 BevelButton::BevelButton(QWidget* parent) : RectControl(parent)
 {
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (Action)
-            Action(*this);
-    });
 }
 
 void BevelButton::keyPressEvent(QKeyEvent* event)
@@ -239,17 +233,12 @@ void BevelButton::keyPressEvent(QKeyEvent* event)
 PushButton::PushButton(QWidget* parent) : RectControl(parent)
 {
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (Action)
-            Action(*this);
-    });
 }
 
 void PushButton::leaveEvent(QEvent* event)
 {
     QPushButton::leaveEvent(event);
-    if (MouseExit)
-        MouseExit(*this);
+    Q_EMIT MouseExit();
 }
 
 void PushButton::keyPressEvent(QKeyEvent* event)
@@ -272,13 +261,7 @@ void PushButton::focusOutEvent(QFocusEvent* event)
     pressedFromKeyboard_ = false;
 }
 
-PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
-{
-    connect(this, &QComboBox::currentIndexChanged, this, [this] {
-        if (Change)
-            Change(*this);
-    });
-}
+PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent) {}
 
 // Qt would choose the first row added to an empty list by itself.
 void PopupMenu::AddRow(const QString& text)
@@ -287,14 +270,6 @@ void PopupMenu::AddRow(const QString& text)
     const int chosen = currentIndex();
     addItem(text);
     setCurrentIndex(chosen);
-}
-
-Slider::Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent)
-{
-    connect(this, &QSlider::valueChanged, this, [this] {
-        if (ValueChanged)
-            ValueChanged(*this);
-    });
 }
 
 } // namespace vorkan

@@ -17,6 +17,12 @@ namespace vorkan {
 class DigitMask;
 class TipWidget;
 
+// The handlers that answer whether they consumed their event, which a Qt signal
+// cannot; every other event of a control is a signal.
+using KeyDownHandler = std::function<bool(const QString& key)>;
+using MouseWheelHandler = std::function<bool(Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)>;
+using MouseDownHandler = std::function<bool(Int32 x, Int32 y)>;
+
 // What every control of a window can do beyond its Qt base.
 template<class Base> class RectControl : public Base {
 public:
@@ -44,9 +50,12 @@ public:
     // The balloon while it is up, else null.
     const QLabel* balloon() const;
 
-    std::function<bool(TextField&, const QString& key)> KeyDown;
-    std::function<void(TextField&, const QString& key)> KeyUp;
-    std::function<bool(TextField&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
+    KeyDownHandler KeyDown;
+    MouseWheelHandler MouseWheel;
+
+Q_SIGNALS:
+    // After the key has reached the field.
+    void KeyUp(const QString& key);
 
 protected:
     bool event(QEvent* event) override;
@@ -79,8 +88,10 @@ public:
     // and whenever the caption changes.
     void labels(QWidget& control, const QString& prefix);
 
-    std::function<bool(StaticText&, Int32 x, Int32 y)> MouseDown;
-    std::function<void(StaticText&)> MouseExit;
+    MouseDownHandler MouseDown;
+
+Q_SIGNALS:
+    void MouseExit();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -94,27 +105,28 @@ private:
 };
 
 // A button that a click never gives the focus, so that typing goes on in the field
-// that had it; Tab reaches it, and Space or Return presses it.
+// that had it; Tab reaches it, and Space or Return presses it. Its Action is clicked.
 class BevelButton : public RectControl<QPushButton> {
     Q_OBJECT
 
 public:
     explicit BevelButton(QWidget* parent);
-    std::function<void(BevelButton&)> Action;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// A button; one pressed from the keyboard, away from the pointer, lets the tip it
-// showed go when the focus leaves it, since no MouseExit will come.
+// A button, whose Action is clicked. One pressed from the keyboard, away from the
+// pointer, lets the tip it showed go when the focus leaves it, since no MouseExit
+// will come.
 class PushButton : public RectControl<QPushButton> {
     Q_OBJECT
 
 public:
     explicit PushButton(QWidget* parent);
-    std::function<void(PushButton&)> Action;
-    std::function<void(PushButton&)> MouseExit;
+
+Q_SIGNALS:
+    void MouseExit();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -126,7 +138,8 @@ private:
     bool pressedFromKeyboard_ = false;
 };
 
-// A pop-up list; ListIndex is -1 while no row is chosen, and shows blank.
+// A pop-up list; ListIndex is -1 while no row is chosen, and shows blank. Its Change
+// is currentIndexChanged.
 class PopupMenu : public RectControl<QComboBox> {
     Q_OBJECT
 
@@ -137,15 +150,14 @@ public:
     void AddRow(const QString& text);
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index) { setCurrentIndex(index); }
-    std::function<void(PopupMenu&)> Change;
 };
 
+// A horizontal slider; its ValueChanged is valueChanged.
 class Slider : public RectControl<QSlider> {
     Q_OBJECT
 
 public:
-    explicit Slider(QWidget* parent);
-    std::function<void(Slider&)> ValueChanged;
+    explicit Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent) {}
 };
 
 class GroupBox : public RectControl<QGroupBox> {

@@ -79,7 +79,6 @@ void Window::build()
         setMenuBar(*App().MenuBar);
     CreateControls();
     AddMenuHandlers();
-    EnableMenuItems();
     Event_Open();
     show();
 }
@@ -97,15 +96,8 @@ void Window::Layout()
 void Window::setMenuBar(const MenuBar& bar)
 {
     delete menuBar_;
-    menuBar_ = buildMenuBar(bar, this, [this](const MenuItem& item) { handleMenuCommand(item); });
-    for (QMenu* menu : menus())
-        connect(menu, &QMenu::aboutToShow, this, &Window::EnableMenuItems);
+    menuBar_ = buildMenuBar(bar, this);
     layout()->setMenuBar(menuBar_);
-}
-
-void Window::AddMenuHandler(QStringView itemName, std::function<bool()> handler)
-{
-    menuHandlers_.insert(itemName.toString(), std::move(handler));
 }
 
 QAction& Window::menuItem(QStringView name) const
@@ -133,27 +125,6 @@ QList<QMenu*> Window::menus() const
             if (title->menu())
                 own << title->menu();
     return own;
-}
-
-// Only the items this window answers are enabled, so that a command never reaches a
-// window that has nothing to do with it; quitting works everywhere.
-void Window::EnableMenuItems()
-{
-    for (QMenu* menu : menus())
-        for (QAction* action : menu->actions())
-            if (!action->isSeparator())
-                action->setEnabled(action->menuRole() == QAction::QuitRole ||
-                                   menuHandlers_.contains(action->objectName()));
-}
-
-void Window::handleMenuCommand(const MenuItem& item)
-{
-    if (item.quits) {
-        quitApplication();
-        return;
-    }
-    if (const auto handler = menuHandlers_.value(item.Name))
-        handler();
 }
 
 // Where the client area lies inside the window's own geometry: below its menu bar.
@@ -206,7 +177,12 @@ void Window::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-void Window::createControls(std::span<const LayoutRow> rows)
+ControlRefBase::ControlRefBase(Window* window, QStringView name) : name_(name)
+{
+    window->controlRefs_.push_back(this);
+}
+
+void Window::createControls(std::span<const LayoutRow> rows, std::span<const LabelledBy> labels)
 {
     for (const LayoutRow& row : rows) {
         QWidget* parent =
@@ -217,13 +193,14 @@ void Window::createControls(std::span<const LayoutRow> rows)
             widget->setGeometry(row.geometry.translated(-parent->mapTo(client_, QPoint(0, 0))));
         controls_.insert(row.name.toString(), widget);
     }
-    for (const LayoutRow& row : rows) {
-        if (!row.props.label.isEmpty())
-            applyLabel(control<QWidget>(row.name), control<QWidget>(row.props.label));
+    for (const LabelledBy& pair : labels)
+        applyLabel(control<QWidget>(pair.control), control<QWidget>(pair.label));
+    for (const LayoutRow& row : rows)
         if (!row.props.accessibleName.isEmpty())
             control<QWidget>(row.name).setAccessibleName(row.props.accessibleName.toString());
-    }
     applyTabOrder(rows);
+    for (ControlRefBase* ref : controlRefs_)
+        ref->resolve(*this);
 }
 
 // Focus moves through a parent's controls by their tab index, and into a container's

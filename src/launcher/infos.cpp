@@ -1,7 +1,7 @@
 #include "infos.h"
 
-#include "core/textops.h"
-#include "core/version.h"
+#include "textops.h"
+#include "version.h"
 
 #include <QStringList>
 
