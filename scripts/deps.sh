@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
 if [[ "${1:-}" == test ]]; then
     packages+=(xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils appstream dpkg-dev
-        dbus at-spi2-core python3-pyatspi)
+        dbus at-spi2-core python3-pyatspi libmpfr-dev)
 fi
 
 missing=()
