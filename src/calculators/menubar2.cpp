@@ -14,11 +14,9 @@ void MenuBar2::Untitled0()
     Child(u"OptionsMenu").Append(quitMenuItem());
 }
 
-// Built once and kept for the life of the process.
 class MenuBar2& MenuBar2()
 {
-    static class MenuBar2 instance;
-    return instance;
+    return menuBarInstance<class MenuBar2>();
 }
 
 } // namespace vorkan

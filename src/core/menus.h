@@ -40,6 +40,13 @@ private:
     std::vector<MenuItem> menus_;
 };
 
+// A menu bar's one instance, built on first use and kept for the life of the process.
+template<class Bar> Bar& menuBarInstance()
+{
+    static Bar instance;
+    return instance;
+}
+
 // Builds a window's bar from the description. Every item starts disabled until a
 // handler of the window takes it, but for the one that quits, which always works.
 QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window);

@@ -11,11 +11,9 @@ void MenuBar1::Untitled0()
     Child(u"OptionsMenu").Append(quitMenuItem());
 }
 
-// Built once and kept for the life of the process.
 class MenuBar1& MenuBar1()
 {
-    static class MenuBar1 instance;
-    return instance;
+    return menuBarInstance<class MenuBar1>();
 }
 
 } // namespace vorkan
