@@ -128,7 +128,7 @@ void Window1::Event_Open()
     const Int32 freeHeight = availableScreenArea().height() - ::vorkan::Window1().Height();
     ::vorkan::Window1().setTop(
         toInt32(static_cast<Double>(availableScreenArea().top()) + freeHeight / 2.0));
-    ::vorkan::Window1().control<StaticText>(u"sbdate").setText(shortDate());
+    ::vorkan::Window1().sbdate().setText(shortDate());
 }
 
 bool Window1::OptionsInfos_Action()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "accessor.h"
+#include "controls.h"
 #include "window.h"
 
 namespace vorkan {
@@ -38,6 +39,8 @@ protected:
 private:
     friend class ImplicitWindows;
     Window1();
+
+    ControlRef<StaticText> sbdate{this, u"sbdate"};
 };
 
 VORKAN_ACCESSOR(Window1)
