@@ -102,31 +102,32 @@ bool TextField::keyDown(QKeyEvent& event)
     if (!mask_ || isReadOnly())
         return false;
     if (event.matches(QKeySequence::Paste)) {
-        const QString before = text();
-        QLineEdit::keyPressEvent(&event);
-        const QString pasted = QGuiApplication::clipboard()->text();
-        if (text() == before && !pasted.isEmpty())
-            refuse(mask_->refusal(*this, pasted));
+        pasteFromKey(event);
         return true;
     }
-    if (!typesText(event))
-        return false;
-    const QString why = mask_->refusal(*this, event.text());
-    if (why.isEmpty())
-        return false;
-    refuse(why);
-    return true;
+    return typesText(event) && refuse(mask_->refusal(*this, event.text()));
 }
 
-void TextField::refuse(const QString& why)
+// A paste the mask turns away leaves the text as it was, which says it was refused.
+void TextField::pasteFromKey(QKeyEvent& event)
+{
+    const QString before = text();
+    QLineEdit::keyPressEvent(&event);
+    const QString pasted = QGuiApplication::clipboard()->text();
+    if (text() == before && !pasted.isEmpty())
+        refuse(mask_->refusal(*this, pasted));
+}
+
+bool TextField::refuse(const QString& why)
 {
     if (why.isEmpty())
-        return;
+        return false;
     QApplication::beep();
     if (!balloon_)
         balloon_ = new TipWidget(window());
     constexpr int balloonMs = 4000;
     balloon_->showAt(why, mapToGlobal(QPoint(0, height() + 2)), balloonMs);
+    return true;
 }
 
 void TextField::hideBalloon()

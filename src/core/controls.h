@@ -65,7 +65,9 @@ protected:
 
 private:
     bool keyDown(QKeyEvent& event);
-    void refuse(const QString& why);
+    void pasteFromKey(QKeyEvent& event);
+    // Beeps and says why in the balloon; false when there is nothing to say.
+    bool refuse(const QString& why);
     void hideBalloon();
 
     DigitMask* mask_ = nullptr;
