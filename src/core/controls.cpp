@@ -76,6 +76,8 @@ bool typesText(const QKeyEvent& event)
 
 TextField::TextField(QWidget* parent) : RectControl(parent) {}
 
+// A grouped field has no length limit of its own: a pasted number would be cut short
+// before its separators go; the mask counts the digits instead.
 void TextField::setDigitMask(int digits, bool grouped)
 {
     if (!grouped)

@@ -11,8 +11,6 @@ namespace vorkan {
 // digits, up to n of them.
 class DigitMask : public QValidator {
 public:
-    // A grouped field has no length limit of its own: the digits are counted once the
-    // separators are gone.
     DigitMask(int digits, bool grouped, QObject* parent);
 
     State validate(QString& input, int& pos) const override;
