@@ -1,13 +1,19 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building (and, with "test", testing) needs,
-# only those that are missing. Uses sudo only when not root.
+# Installs the Debian packages that building needs and, with "package", what making the
+# Debian package needs too, or with "test", everything the tests need; only those that
+# are missing. Uses sudo only when not root.
 set -euo pipefail
 
 packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
-if [[ "${1:-}" == test ]]; then
-    packages+=(xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils appstream dpkg-dev
-        dbus at-spi2-core python3-pyatspi libmpfr-dev)
-fi
+# CPack reads the programs' library dependencies with dpkg-shlibdeps, which needs file.
+packaging=(dpkg-dev file)
+case "${1:-}" in
+package) packages+=("${packaging[@]}") ;;
+test)
+    packages+=("${packaging[@]}" xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils
+        appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
+    ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
