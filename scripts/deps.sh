@@ -1,18 +1,24 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building (and, with "test", testing; with
-# "windows", the Windows build and its tests under Wine) needs, only those that are
-# missing. Uses sudo only when not root.
+# Installs the Debian packages that building needs and, with "package", what making the
+# Debian package needs too, with "test", everything the tests need, or with "windows",
+# that and the Windows build and its tests under Wine; only those that are missing.
+# Uses sudo only when not root.
 set -euo pipefail
 
 packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
-if [[ "${1:-}" == test || "${1:-}" == windows ]]; then
-    packages+=(xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils appstream dpkg-dev
-        dbus at-spi2-core python3-pyatspi)
-fi
-if [[ "${1:-}" == windows ]]; then
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin icoutils
-        locales)
-fi
+# CPack reads the programs' library dependencies with dpkg-shlibdeps, which needs file.
+packaging=(dpkg-dev file)
+case "${1:-}" in
+package) packages+=("${packaging[@]}") ;;
+test | windows)
+    packages+=("${packaging[@]}" xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils
+        appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
+    ;;&
+windows)
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin
+        icoutils locales)
+    ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do

@@ -1,5 +1,5 @@
-#include "core/app.h"
-#include "launcher/startup.h"
+#include "app.h"
+#include "startup.h"
 
 #include <cstdio>
 #include <exception>
@@ -10,9 +10,9 @@ int main(int argc, char* argv[])
 {
     try {
         class App app(argc, argv);
-        newAppInstance(app);
+        // The program ends with its last window, which must hold before one can close.
         app.Event_Open();
-        makeDefaultView();
+        startup(app);
         return app.exec();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "vorkan-mac: %s\n", error.what());

@@ -1,9 +1,9 @@
 #include "sessioncheck.h"
 
-#include "core/app.h"
-#include "core/controls.h"
-#include "core/textops.h"
-#include "core/window.h"
+#include "app.h"
+#include "controls.h"
+#include "textops.h"
+#include "window.h"
 
 #include <QRegularExpression>
 

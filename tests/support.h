@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/app.h"
-#include "core/window.h"
-#include "launcher/startup.h"
+#include "app.h"
+#include "startup.h"
+#include "window.h"
 
 #include <QTest>
 

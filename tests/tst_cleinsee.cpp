@@ -1,11 +1,12 @@
 #include "support.h"
 
-#include "calculators/cleinsee.h"
-#include "core/controls.h"
+#include "cleinsee.h"
+#include "controls.h"
+#include "platform.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QToolTip>
+#include <QHelpEvent>
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;
@@ -29,7 +30,8 @@ BevelButton& copier()
 }
 
 // Types into the number field: "\r" is Return, "\n" the keypad's Enter, "\b"
-// Backspace, ">" the right arrow key, anything else the character's own key.
+// Backspace, ">" the right arrow key, "\t" Tab, "^" Shift pressed and released alone,
+// a digit its own key; anything else fails the test.
 void press(const QString& keys)
 {
     TextField& field = number();
@@ -43,8 +45,14 @@ void press(const QString& keys)
             QTest::keyClick(&field, Qt::Key_Backspace);
         else if (c == u'>')
             QTest::keyClick(&field, Qt::Key_Right);
-        else
+        else if (c == u'\t')
+            QTest::keyClick(&field, Qt::Key_Tab);
+        else if (c == u'^')
+            QTest::keyClick(&field, Qt::Key_Shift);
+        else if (c.isDigit())
             QTest::keyClick(&field, c.toLatin1());
+        else
+            QFAIL(qPrintable(u"no key for '%1'"_s.arg(c)));
     }
 }
 
@@ -63,6 +71,8 @@ private Q_SLOTS:
     void resetLeavesTheCopyButtonAsItWas();
     void copies_data();
     void copies();
+    void pastes_data();
+    void pastes();
     void tips_data();
     void tips();
 };
@@ -90,6 +100,9 @@ void TestCleinsee::keys_data()
         << u"1234567890123>"_s << u"1234567890123"_s << u"11"_s;
     QTest::newRow("Backspace on 13 digits computes before deleting")
         << u"1234567890123\b"_s << u"123456789012"_s << u"11"_s;
+    QTest::newRow("Tab after the 13th computes")
+        << u"1234567890123\t"_s << u"1234567890123"_s << u"11"_s;
+    QTest::newRow("Shift alone is no key") << u"1234567890123^"_s << u"1234567890123"_s << u""_s;
 }
 
 void TestCleinsee::keys()
@@ -112,6 +125,7 @@ void TestCleinsee::copyButtonFollowsOneKeyBehind_data()
     QTest::newRow("last digit deleted") << u"12\b\b"_s << true;
     QTest::newRow("next key on the empty field") << u"12\b\b>"_s << false;
     QTest::newRow("first digit of a new number") << u"12\b\b5"_s << false;
+    QTest::newRow("Shift alone does not count") << u"12\b\b^"_s << true;
 }
 
 void TestCleinsee::copyButtonFollowsOneKeyBehind()
@@ -126,6 +140,8 @@ void TestCleinsee::resetLeavesTheCopyButtonAsItWas()
 {
     press(u"1234567890123\r"_s);
     QTest::mouseClick(&cleinsee().control<BevelButton>(u"BevelButton1"), Qt::LeftButton);
+    // Typing goes on where it was.
+    QCOMPARE(cleinsee().focusWidget(), &number());
     QCOMPARE(number().text(), QString());
     QCOMPARE(key(), QString());
     QVERIFY(copier().isEnabled());
@@ -158,6 +174,29 @@ void TestCleinsee::copies()
     QCOMPARE(QGuiApplication::clipboard()->text(), expected);
 }
 
+void TestCleinsee::pastes_data()
+{
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("in groups") << u"1 85 05 78 006 084"_s << u"1850578006084"_s << false;
+    QTest::newRow("with dots and its key")
+        << u"1.85.05.78.006.084.91"_s << u"1850578006084"_s << false;
+    QTest::newRow("not a number") << u"12,5"_s << u""_s << true;
+}
+
+void TestCleinsee::pastes()
+{
+    QFETCH(QString, pasted);
+    QFETCH(QString, shown);
+    QFETCH(bool, refused);
+    QGuiApplication::clipboard()->setText(pasted);
+    number().setFocus();
+    QTest::keyClick(&number(), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(number().text(), shown);
+    QCOMPARE(number().balloon() != nullptr, refused);
+}
+
 void TestCleinsee::tips_data()
 {
     QTest::addColumn<QString>("control");
@@ -178,18 +217,18 @@ void TestCleinsee::tips()
 {
     QFETCH(QString, control);
     QFETCH(QStringList, lines);
-    // Qt hides tips when the focus moves, as it does when the window comes up.
-    QVERIFY(QTest::qWaitForWindowActive(&cleinsee()));
     auto& clicked = cleinsee().control<QWidget>(control);
     QTest::mouseClick(&clicked, Qt::LeftButton, {}, QPoint(5, 5));
-    // The tip stays up after the click, also for the label that shows it on the press.
-    QTest::qWait(50);
-    QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text().split(u'\n'), lines);
+    // The tip stays up after the click, a hover over the label and a key press.
+    QHelpEvent hover(QEvent::ToolTip, QPoint(5, 5), clicked.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&clicked, &hover);
+    press(u"4"_s);
+    QVERIFY(Tooltip::shown());
+    QCOMPARE(Tooltip::shown()->text().split(u'\n'), lines);
 
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&clicked, &leave);
-    QTRY_VERIFY(!QToolTip::isVisible());
+    QVERIFY(!Tooltip::shown());
 }
 
 VORKAN_TEST_MAIN(TestCleinsee)

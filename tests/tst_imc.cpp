@@ -1,11 +1,10 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "core/controls.h"
-#include "core/textops.h"
-#include "core/updownarrows.h"
-
-#include <QToolTip>
+#include "controls.h"
+#include "imc.h"
+#include "platform.h"
+#include "textops.h"
+#include "updownarrows.h"
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;
@@ -24,6 +23,7 @@ private Q_SLOTS:
     void resultsUnderAFrenchLocale();
     void stepping_data();
     void stepping();
+    void aRefusedKeyIsNoticedAndChangesNothing();
     void arrowsRepeatWhileHeld();
     void reopensFromTheRecord();
     void tipShowsThreeLinesBesideThePointer();
@@ -229,6 +229,21 @@ void TestImc::stepping()
     QCOMPARE(record, expected == u""_s ? u"0"_s : expected);
 }
 
+void TestImc::aRefusedKeyIsNoticedAndChangesNothing()
+{
+    auto& poids = imc().control<TextField>(u"poids");
+    typeInto(poids, u"72"_s);
+    QVERIFY(!poids.balloon());
+    QTest::keyClick(&poids, Qt::Key_Comma, {}, 0);
+    QCOMPARE(poids.text(), u"72"_s);
+    QCOMPARE(App().poids, 72.0f);
+    QVERIFY(poids.balloon());
+    QVERIFY(poids.balloon()->text().startsWith(u"Nombres entiers"_s));
+    QVERIFY(poids.balloon()->geometry().top() >= poids.mapToGlobal(QPoint(0, poids.height())).y());
+    QTest::keyClick(&poids, Qt::Key_5);
+    QVERIFY(!poids.balloon());
+}
+
 void TestImc::arrowsRepeatWhileHeld()
 {
     auto& arrows = imc().control<UpDownArrows>(u"UpDownArrows1");
@@ -262,23 +277,19 @@ void TestImc::tipShowsThreeLinesBesideThePointer()
     // Leaving the button with no tip up does nothing.
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&aide, &leave);
-    QVERIFY(!QToolTip::isVisible());
+    QVERIFY(!Tooltip::shown());
 
     const QPoint pointer = aide.mapToGlobal(QPoint(5, 5));
     QCursor::setPos(pointer);
     QTest::mouseClick(&aide, Qt::LeftButton, {}, QPoint(5, 5));
-    QTRY_VERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), u"Utiliser la molette de la souris\nou les touches haut/bas\n"
-                               u"ou le clavier"_s);
-    QWidget* tip = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->inherits("QTipLabel"))
-            tip = widget;
+    const QLabel* tip = Tooltip::shown();
     QVERIFY(tip);
+    QCOMPARE(tip->text(), u"Utiliser la molette de la souris\nou les touches haut/bas\n"
+                          u"ou le clavier"_s);
     QCOMPARE(tip->pos(), QCursor::pos() + QPoint(10, 10));
 
     QCoreApplication::sendEvent(&aide, &leave);
-    QTRY_VERIFY(!QToolTip::isVisible());
+    QVERIFY(!Tooltip::shown());
 }
 
 VORKAN_TEST_MAIN(TestImc)

@@ -1,11 +1,11 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "core/controls.h"
-#include "core/platform.h"
-#include "core/textops.h"
-#include "launcher/infos.h"
-#include "launcher/window1.h"
+#include "controls.h"
+#include "imc.h"
+#include "infos.h"
+#include "platform.h"
+#include "textops.h"
+#include "window1.h"
 
 #include <QAction>
 #include <QDate>
@@ -97,7 +97,10 @@ void TestLauncher::opensCentredInTheFreeArea()
 {
     // The test screen's free area starts at (200, 30), below and beside panels.
     QCOMPARE(availableScreenArea(), QRect(200, 30, 1000, 700));
-    QCOMPARE(Window1().pos(), QPoint(200 + 277, 30 + 249));
+    // The client area, below the menu bar, is what is centred.
+    const QPoint clientArea(200 + 277, 30 + 249);
+    QCOMPARE(Window1().control<QWidget>(u"BevelButton3").mapToGlobal(QPoint(0, 0)),
+             clientArea + QPoint(13, 35));
     QCOMPARE(Window1().windowTitle(), u"Vorkan MAC"_s);
     QCOMPARE(Window1().control<StaticText>(u"sbdate").geometry(), QRect(6, 6, 88, 16));
 }
@@ -130,7 +133,12 @@ void TestLauncher::oneWindowPerCalculator()
     for (int i = 0; i < 3; ++i)
         QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(visibleWindowsTitled(u"IMC"_s), 1);
-    imc().Close();
+    imc().showMinimized();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(!imc().isMinimized());
+    QVERIFY(QTest::qWaitForWindowActive(&imc()));
+    QTest::keyClick(&imc(), Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(ImplicitWindows::find(u"imc.imc"), nullptr);
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(visibleWindowsTitled(u"IMC"_s), 1);
 }

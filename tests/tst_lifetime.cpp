@@ -1,12 +1,12 @@
 // Windows opened and closed again and again leave nothing behind.
 #include "support.h"
 
-#include "calculators/cleinsee.h"
-#include "calculators/imc.h"
-#include "calculators/norton.h"
-#include "calculators/pideal.h"
-#include "calculators/surf.h"
-#include "launcher/window1.h"
+#include "cleinsee.h"
+#include "imc.h"
+#include "norton.h"
+#include "pideal.h"
+#include "surf.h"
+#include "window1.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 #include "support.h"
 
-#include "calculators/norton.h"
-#include "core/controls.h"
+#include "controls.h"
+#include "norton.h"
 
 #include <QAction>
 #include <QClipboard>

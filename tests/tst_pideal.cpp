@@ -1,8 +1,8 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "calculators/pideal.h"
-#include "core/controls.h"
+#include "controls.h"
+#include "imc.h"
+#include "pideal.h"
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;

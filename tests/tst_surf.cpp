@@ -1,10 +1,10 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "calculators/surf.h"
-#include "core/controls.h"
-#include "core/textops.h"
-#include "core/updownarrows.h"
+#include "controls.h"
+#include "imc.h"
+#include "surf.h"
+#include "textops.h"
+#include "updownarrows.h"
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;

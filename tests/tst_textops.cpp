@@ -1,4 +1,4 @@
-#include "core/textops.h"
+#include "textops.h"
 
 #include <QLocale>
 #include <QTest>

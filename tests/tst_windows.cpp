@@ -1,7 +1,7 @@
 #include "support.h"
 
-#include "calculators/imc.h"
-#include "core/controls.h"
+#include "controls.h"
+#include "imc.h"
 
 using namespace Qt::StringLiterals;
 using namespace vorkan;

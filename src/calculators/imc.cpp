@@ -1,8 +1,7 @@
 #include "imc.h"
 
-#include "core/app.h"
-#include "core/controls.h"
-#include "core/textops.h"
+#include "app.h"
+#include "textops.h"
 #include "tips.h"
 
 #include <array>
@@ -15,91 +14,66 @@ namespace {
 
 constexpr WindowProps props{u"IMC", 532, 313};
 
+constexpr ControlProps threeDigits{.maskDigits = 3};
+constexpr ControlProps inBox1{.inside = u"GroupBox1"};
+constexpr ControlProps inBox2{.inside = u"GroupBox2"};
+constexpr ControlProps sourceInBox1{.inside = u"GroupBox1", .textSize = 9};
+constexpr ControlProps sourceInBox2{.inside = u"GroupBox2", .textSize = 9};
+
+// clang-format off
 constexpr LayoutRow layoutTable[] = {
-    {u"taille",
-     Kind::TextField,
-     {23, 39, 49, 25},
-     0,
-     u"170",
-     {.maskDigits = 3, .label = u"StaticText1"}},
-    {u"UpDownArrows1", Kind::UpDownArrows, {76, 39, 13, 25}, 1},
-    {u"StaticText1", Kind::StaticText, {20, 14, 69, 20}, 2, u"Taille (cm)"},
-    {u"poids",
-     Kind::TextField,
-     {23, 101, 49, 25},
-     3,
-     u"70",
-     {.maskDigits = 3, .label = u"StaticText2"}},
-    {u"UpDownArrows2", Kind::UpDownArrows, {76, 101, 13, 25}, 4},
-    {u"StaticText2", Kind::StaticText, {23, 76, 69, 20}, 5, u"Poids (kg)"},
-    {u"imct",
-     Kind::TextField,
-     {264, 12, 75, 25},
-     6,
-     u"0",
-     {.bold = true, .textSize = 14, .readOnly = true, .label = u"StaticText3"}},
-    {u"StaticText3", Kind::StaticText, {165, 14, 80, 20}, 7, u"IMC (kg/m²)", {.bold = true}},
-    {u"imclab", Kind::StaticText, {172, 38, 167, 17}, 8, u"", {.centred = true}},
-    {u"imcaide", Kind::PushButton, {23, 141, 26, 27}, 17, u"?"},
-    {u"Line1", Kind::Line, {104, 0, 100, 50}, -1, u"", {.line = {104, 0, 104, 313}}},
-    {u"StaticText8", Kind::StaticText, {116, 140, 129, 20}, 19, u"Corpulence normale"},
-    {u"StaticText9", Kind::StaticText, {116, 173, 62, 20}, 21, u"Surpoids"},
-    {u"StaticText10", Kind::StaticText, {116, 206, 107, 20}, 23, u"Obéité modérée"},
-    {u"StaticText11", Kind::StaticText, {116, 239, 99, 20}, 25, u"Obésité sévère"},
-    {u"StaticText12", Kind::StaticText, {116, 272, 107, 20}, 27, u"Obésité morbide"},
-    {u"GroupBox2", Kind::GroupBox, {369, 128, 142, 101}, 29, u"Poids maigre (kg)"},
-    {u"StaticText5", Kind::StaticText, {380, 152, 56, 23}, 0, u"Homme", {.inside = u"GroupBox2"}},
-    {u"StaticText14", Kind::StaticText, {380, 188, 50, 20}, 1, u"Femme", {.inside = u"GroupBox2"}},
-    {u"StaticText18",
-     Kind::StaticText,
-     {385, 215, 62, 14},
-     4,
-     u"James 1981",
-     {.inside = u"GroupBox2", .textSize = 9}},
-    {u"poidsmaigreh",
-     Kind::StaticText,
-     {448, 152, 53, 23},
-     5,
-     u"",
-     {.inside = u"GroupBox2", .label = u"StaticText5"}},
-    {u"poidsmaigref",
-     Kind::StaticText,
-     {448, 187, 53, 23},
-     6,
-     u"",
-     {.inside = u"GroupBox2", .label = u"StaticText14"}},
-    {u"StaticText15", Kind::StaticText, {116, 108, 62, 20}, 31, u"Maigreur"},
-    {u"StaticText16", Kind::StaticText, {116, 73, 74, 20}, 33, u"Dénutrition"},
-    {u"Line2", Kind::Line, {351, 0, 100, 50}, -1, u"", {.line = {351, 0, 350, 313}}},
-    {u"GroupBox1", Kind::GroupBox, {369, 14, 143, 102}, 28, u"Poids idéal (kg)"},
-    {u"StaticText13", Kind::StaticText, {381, 74, 50, 20}, 0, u"Femme", {.inside = u"GroupBox1"}},
-    {u"StaticText4", Kind::StaticText, {381, 38, 56, 23}, 1, u"Homme", {.inside = u"GroupBox1"}},
-    {u"StaticText17",
-     Kind::StaticText,
-     {385, 101, 62, 14},
-     4,
-     u"Devine 1974",
-     {.inside = u"GroupBox1", .textSize = 9}},
-    {u"poidsidealh",
-     Kind::StaticText,
-     {448, 39, 53, 23},
-     5,
-     u"",
-     {.inside = u"GroupBox1", .label = u"StaticText4"}},
-    {u"poidsidealf",
-     Kind::StaticText,
-     {448, 75, 53, 23},
-     6,
-     u"",
-     {.inside = u"GroupBox1", .label = u"StaticText13"}},
-    {u"imcde", Kind::StaticText, {264, 72, 75, 23}, 34, u"", {.label = u"StaticText16"}},
-    {u"imcma", Kind::StaticText, {264, 107, 75, 23}, 35, u"", {.label = u"StaticText15"}},
-    {u"imcn", Kind::StaticText, {264, 138, 75, 23}, 36, u"", {.label = u"StaticText8"}},
-    {u"imcsu", Kind::StaticText, {264, 172, 75, 23}, 37, u"", {.label = u"StaticText9"}},
-    {u"imcom", Kind::StaticText, {264, 205, 75, 23}, 38, u"", {.label = u"StaticText10"}},
-    {u"imcos", Kind::StaticText, {264, 238, 75, 23}, 39, u"", {.label = u"StaticText11"}},
-    {u"imcomo", Kind::StaticText, {264, 271, 75, 23}, 40, u"", {.label = u"StaticText12"}},
+    // name            class               left  top width height tab text            other
+    {u"taille",        Kind::TextField,    { 23,  39,  49,  25},  0, u"170",           threeDigits},
+    {u"UpDownArrows1", Kind::UpDownArrows, { 76,  39,  13,  25},  1},
+    {u"StaticText1",   Kind::StaticText,   { 20,  14,  69,  20},  2, u"Taille (cm)"},
+    {u"poids",         Kind::TextField,    { 23, 101,  49,  25},  3, u"70",            threeDigits},
+    {u"UpDownArrows2", Kind::UpDownArrows, { 76, 101,  13,  25},  4},
+    {u"StaticText2",   Kind::StaticText,   { 23,  76,  69,  20},  5, u"Poids (kg)"},
+    {u"imct",          Kind::TextField,    {264,  12,  75,  25},  6, u"0",
+                                           {.bold = true, .textSize = 14, .readOnly = true}},
+    {u"StaticText3",   Kind::StaticText,   {165,  14,  80,  20},  7, u"IMC (kg/m²)",   {.bold = true}},
+    {u"imclab",        Kind::StaticText,   {172,  38, 167,  17},  8, u"",              {.centred = true}},
+    {u"imcaide",       Kind::PushButton,   { 23, 141,  26,  27}, 17, u"?"},
+    {u"Line1",         Kind::Line,         {104,   0, 100,  50}, -1, u"",              {.line = {104, 0, 104, 313}}},
+    {u"StaticText8",   Kind::StaticText,   {116, 140, 129,  20}, 19, u"Corpulence normale"},
+    {u"StaticText9",   Kind::StaticText,   {116, 173,  62,  20}, 21, u"Surpoids"},
+    {u"StaticText10",  Kind::StaticText,   {116, 206, 107,  20}, 23, u"Obéité modérée"},
+    {u"StaticText11",  Kind::StaticText,   {116, 239,  99,  20}, 25, u"Obésité sévère"},
+    {u"StaticText12",  Kind::StaticText,   {116, 272, 107,  20}, 27, u"Obésité morbide"},
+    {u"GroupBox2",     Kind::GroupBox,     {369, 128, 142, 101}, 29, u"Poids maigre (kg)"},
+    {u"StaticText5",   Kind::StaticText,   {380, 152,  56,  23},  0, u"Homme",         inBox2},
+    {u"StaticText14",  Kind::StaticText,   {380, 188,  50,  20},  1, u"Femme",         inBox2},
+    {u"StaticText18",  Kind::StaticText,   {385, 215,  62,  14},  4, u"James 1981",    sourceInBox2},
+    {u"poidsmaigreh",  Kind::StaticText,   {448, 152,  53,  23},  5, u"",              inBox2},
+    {u"poidsmaigref",  Kind::StaticText,   {448, 187,  53,  23},  6, u"",              inBox2},
+    {u"StaticText15",  Kind::StaticText,   {116, 108,  62,  20}, 31, u"Maigreur"},
+    {u"StaticText16",  Kind::StaticText,   {116,  73,  74,  20}, 33, u"Dénutrition"},
+    {u"Line2",         Kind::Line,         {351,   0, 100,  50}, -1, u"",              {.line = {351, 0, 350, 313}}},
+    {u"GroupBox1",     Kind::GroupBox,     {369,  14, 143, 102}, 28, u"Poids idéal (kg)"},
+    {u"StaticText13",  Kind::StaticText,   {381,  74,  50,  20},  0, u"Femme",         inBox1},
+    {u"StaticText4",   Kind::StaticText,   {381,  38,  56,  23},  1, u"Homme",         inBox1},
+    {u"StaticText17",  Kind::StaticText,   {385, 101,  62,  14},  4, u"Devine 1974",   sourceInBox1},
+    {u"poidsidealh",   Kind::StaticText,   {448,  39,  53,  23},  5, u"",              inBox1},
+    {u"poidsidealf",   Kind::StaticText,   {448,  75,  53,  23},  6, u"",              inBox1},
+    {u"imcde",         Kind::StaticText,   {264,  72,  75,  23}, 34},
+    {u"imcma",         Kind::StaticText,   {264, 107,  75,  23}, 35},
+    {u"imcn",          Kind::StaticText,   {264, 138,  75,  23}, 36},
+    {u"imcsu",         Kind::StaticText,   {264, 172,  75,  23}, 37},
+    {u"imcom",         Kind::StaticText,   {264, 205,  75,  23}, 38},
+    {u"imcos",         Kind::StaticText,   {264, 238,  75,  23}, 39},
+    {u"imcomo",        Kind::StaticText,   {264, 271,  75,  23}, 40},
 };
+
+constexpr LabelledBy labels[] = {
+    {u"taille",       u"StaticText1"},  {u"poids",        u"StaticText2"},
+    {u"imct",         u"StaticText3"},  {u"poidsmaigreh", u"StaticText5"},
+    {u"poidsmaigref", u"StaticText14"}, {u"poidsidealh",  u"StaticText4"},
+    {u"poidsidealf",  u"StaticText13"}, {u"imcde",        u"StaticText16"},
+    {u"imcma",        u"StaticText15"}, {u"imcn",         u"StaticText8"},
+    {u"imcsu",        u"StaticText9"},  {u"imcom",        u"StaticText10"},
+    {u"imcos",        u"StaticText11"}, {u"imcomo",       u"StaticText12"},
+};
+// clang-format on
 
 // The index at which each weight band starts and ends, in the order of the bands.
 constexpr std::array<Double, 6> bandLimits{16.5, 18.5, 25, 30, 35, 40};
@@ -115,21 +89,77 @@ class imc& imc()
 
 void imc::CreateControls()
 {
-    createControls(layoutTable);
-    bindSteppedField({u"taille", u"UpDownArrows1", 50, 250});
-    bindSteppedField({u"poids", u"UpDownArrows2", 30, 250});
-    auto& aide = control<PushButton>(u"imcaide");
-    aide.Action = [this](PushButton&) { imcaide_Action(); };
-    aide.MouseExit = [this](PushButton&) { imcaide_MouseExit(); };
+    createControls(layoutTable, labels);
+    installStepped<class imc>(taille(), UpDownArrows1(),
+                              {&imc::taille_MouseWheel, &imc::taille_KeyDown, &imc::taille_KeyUp,
+                               &imc::UpDownArrows1_MouseWheel, &imc::UpDownArrows1_Down,
+                               &imc::UpDownArrows1_Up});
+    installStepped<class imc>(poids(), UpDownArrows2(),
+                              {&imc::poids_MouseWheel, &imc::poids_KeyDown, &imc::poids_KeyUp,
+                               &imc::UpDownArrows2_MouseWheel, &imc::UpDownArrows2_Down,
+                               &imc::UpDownArrows2_Up});
+    connect(&imcaide(), &PushButton::clicked, this, &imc::imcaide_Action);
+    connect(&imcaide(), &PushButton::MouseExit, this, &imc::imcaide_MouseExit);
 }
 
-void imc::Event_Open()
+bool imc::taille_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
 {
-    if (App().taille != 0)
-        control<TextField>(u"taille").setText(Str(App().taille));
-    if (App().poids != 0)
-        control<TextField>(u"poids").setText(Str(App().poids));
+    return stepOnWheel(taille(), deltaY, heightLimits);
+}
+
+bool imc::taille_KeyDown(const QString& Key)
+{
+    return stepOnKey(taille(), Key, heightLimits);
+}
+
+void imc::taille_KeyUp()
+{
     calc();
+}
+
+bool imc::UpDownArrows1_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(taille(), deltaY, heightLimits);
+}
+
+void imc::UpDownArrows1_Down()
+{
+    diminue(taille(), heightLimits.lower);
+}
+
+void imc::UpDownArrows1_Up()
+{
+    augmente(taille(), heightLimits.upper);
+}
+
+bool imc::poids_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(poids(), deltaY, weightLimits);
+}
+
+bool imc::poids_KeyDown(const QString& Key)
+{
+    return stepOnKey(poids(), Key, weightLimits);
+}
+
+void imc::poids_KeyUp()
+{
+    calc();
+}
+
+bool imc::UpDownArrows2_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(poids(), deltaY, weightLimits);
+}
+
+void imc::UpDownArrows2_Down()
+{
+    diminue(poids(), weightLimits.lower);
+}
+
+void imc::UpDownArrows2_Up()
+{
+    augmente(poids(), weightLimits.upper);
 }
 
 void imc::imcaide_Action()
@@ -142,19 +172,27 @@ void imc::imcaide_MouseExit()
     hideTip();
 }
 
+void imc::Event_Open()
+{
+    if (App().taille != 0)
+        taille().setText(Str(App().taille));
+    if (App().poids != 0)
+        poids().setText(Str(App().poids));
+    calc();
+}
+
 void imc::calc()
 {
-    App().poids = static_cast<Single>(Val(control<TextField>(u"poids").text()));
-    App().taille = static_cast<Single>(Val(control<TextField>(u"taille").text()));
+    App().poids = static_cast<Single>(Val(poids().text()));
+    App().taille = static_cast<Single>(Val(taille().text()));
     const Single W = App().poids;
     const Single H = App().taille;
 
     const Single heightSquared = H * H;
     const Double squareMetres = heightSquared / 10000.0;
     const auto index = static_cast<Single>(W / squareMetres);
-    auto& imct = control<TextField>(u"imct");
-    imct.setText(Format(index, u"0.0"));
-    imct.Refresh(true);
+    imct().setText(Format(index, u"0.0"));
+    imct().Refresh(true);
 
     writeBands(Pow(App().taille / 100.0, 2));
     writeClass();
@@ -168,26 +206,25 @@ void imc::writeBands(Double heightSquaredInMetres)
     std::array<QString, bandLimits.size()> bound;
     for (size_t i = 0; i < bandLimits.size(); ++i)
         bound[i] = Format(static_cast<Single>(heightSquaredInMetres * bandLimits[i]), u"0");
-    const std::array<std::pair<QStringView, QString>, 7> bands{{
-        {u"imcde", u"<" + bound[0]},
-        {u"imcma", bound[0] + u"-" + bound[1]},
-        {u"imcn", bound[1] + u"-" + bound[2]},
-        {u"imcsu", bound[2] + u"-" + bound[3]},
-        {u"imcom", bound[3] + u"-" + bound[4]},
-        {u"imcos", bound[4] + u"-" + bound[5]},
-        {u"imcomo", u">" + bound[5]},
-    }};
-    for (const auto& [name, text] : bands) {
-        auto& band = control<StaticText>(name);
-        band.setText(text);
-        band.Refresh(true);
+    const std::array<QString, bandLimits.size() + 1> texts{
+        u"<" + bound[0],
+        bound[0] + u"-" + bound[1],
+        bound[1] + u"-" + bound[2],
+        bound[2] + u"-" + bound[3],
+        bound[3] + u"-" + bound[4],
+        bound[4] + u"-" + bound[5],
+        u">" + bound[5],
+    };
+    for (size_t i = 0; i < texts.size(); ++i) {
+        bands[i]().setText(texts[i]);
+        bands[i]().Refresh(true);
     }
 }
 
 // The class follows the index as shown, with one decimal, not the computed value.
 void imc::writeClass()
 {
-    const Double x = Val(control<TextField>(u"imct").text());
+    const Double x = Val(imct().text());
     QString name;
     if (x > 40)
         name = u"obésité morbide"_s;
@@ -203,7 +240,7 @@ void imc::writeClass()
         name = u"maigreur"_s;
     else
         name = u"dénutrition"_s;
-    control<StaticText>(u"imclab").setText(name);
+    imclab().setText(name);
 }
 
 // Devine, with the height converted by 2.56 as the formula has always been used here.
@@ -212,8 +249,8 @@ void imc::writeIdealWeights(Single height)
     const Double I = (height / 2.56 - 60) * 2.3;
     const auto man = static_cast<Single>(I + 50);
     const auto woman = static_cast<Single>(I + 45.5);
-    control<StaticText>(u"poidsidealh").setText(Format(man, u"0.0"));
-    control<StaticText>(u"poidsidealf").setText(Format(woman, u"0.0"));
+    poidsidealh().setText(Format(man, u"0.0"));
+    poidsidealf().setText(Format(woman, u"0.0"));
 }
 
 // James 1981.
@@ -222,8 +259,8 @@ void imc::writeLeanWeights(Single weight, Single height)
     const Double Q = Pow(weight, 2) / Pow(height, 2);
     const auto man = static_cast<Single>(1.1 * weight - 128 * Q);
     const auto woman = static_cast<Single>(1.07 * weight - 148 * Q);
-    control<StaticText>(u"poidsmaigreh").setText(Format(man, u"0.0"));
-    control<StaticText>(u"poidsmaigref").setText(Format(woman, u"0.0"));
+    poidsmaigreh().setText(Format(man, u"0.0"));
+    poidsmaigref().setText(Format(woman, u"0.0"));
 }
 
 } // namespace vorkan

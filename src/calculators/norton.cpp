@@ -1,12 +1,10 @@
 #include "norton.h"
 
-#include "core/controls.h"
-#include "core/platform.h"
-#include "core/textops.h"
-#include "launcher/menubars.h"
+#include "menubar2.h"
+#include "platform.h"
+#include "textops.h"
 
 #include <array>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,70 +15,40 @@ namespace {
 constexpr WindowProps props{u"Echelle de Norton", 242, 448};
 
 // RoundRectangle1 shares its tab index with GroupBox4; neither takes the focus.
+// clang-format off
 constexpr LayoutRow layoutTable[] = {
-    {u"GroupBox1", Kind::GroupBox, {20, 47, 173, 55}, 0, u"Condition physique"},
-    {u"PopupMenu1",
-     Kind::PopupMenu,
-     {31, 75, 154, 27},
-     0,
-     u"",
-     {.inside = u"GroupBox1", .label = u"GroupBox1"}},
-    {u"GroupBox2", Kind::GroupBox, {20, 114, 173, 55}, 1, u"Etat mental"},
-    {u"PopupMenu2",
-     Kind::PopupMenu,
-     {31, 142, 154, 27},
-     0,
-     u"",
-     {.inside = u"GroupBox2", .label = u"GroupBox2"}},
-    {u"StaticText3",
-     Kind::StaticText,
-     {0, 14, 222, 19},
-     4,
-     u"Evaluation du risque d'escarre",
-     {.bold = true, .underline = true, .centred = true}},
-    {u"GroupBox3", Kind::GroupBox, {20, 181, 173, 55}, 5, u"Activité"},
-    {u"PopupMenu3",
-     Kind::PopupMenu,
-     {31, 209, 154, 27},
-     0,
-     u"",
-     {.inside = u"GroupBox3", .label = u"GroupBox3"}},
-    {u"GroupBox4", Kind::GroupBox, {20, 248, 173, 55}, 6, u"Mobilité"},
-    {u"PopupMenu4",
-     Kind::PopupMenu,
-     {31, 276, 154, 27},
-     0,
-     u"",
-     {.inside = u"GroupBox4", .label = u"GroupBox4"}},
-    {u"GroupBox5", Kind::GroupBox, {20, 315, 173, 55}, 7, u"Incontinence"},
-    {u"PopupMenu5",
-     Kind::PopupMenu,
-     {31, 343, 154, 27},
-     0,
-     u"",
-     {.inside = u"GroupBox5", .label = u"GroupBox5"}},
-    {u"RoundRectangle1",
-     Kind::RoundRectangle,
-     {8, 389, 209, 39},
-     6,
-     u"",
-     {.shape = {.borderWidth = 1, .fill = 0xffffffff, .border = 0xff000000, .oval = 16}}},
-    {u"StaticText1",
-     Kind::StaticText,
-     {15, 396, 184, 24},
-     0,
-     u"",
-     {.inside = u"RoundRectangle1", .bold = true, .centred = true}},
+    // name              class                 left  top width height tab text                         other
+    {u"GroupBox1",       Kind::GroupBox,       { 20,  47, 173,  55}, 0, u"Condition physique"},
+    {u"PopupMenu1",      Kind::PopupMenu,      { 31,  75, 154,  27}, 0, u"", {.inside = u"GroupBox1"}},
+    {u"GroupBox2",       Kind::GroupBox,       { 20, 114, 173,  55}, 1, u"Etat mental"},
+    {u"PopupMenu2",      Kind::PopupMenu,      { 31, 142, 154,  27}, 0, u"", {.inside = u"GroupBox2"}},
+    {u"StaticText3",     Kind::StaticText,     {  0,  14, 222,  19}, 4, u"Evaluation du risque d'escarre",
+                                               {.bold = true, .underline = true, .centred = true}},
+    {u"GroupBox3",       Kind::GroupBox,       { 20, 181, 173,  55}, 5, u"Activité"},
+    {u"PopupMenu3",      Kind::PopupMenu,      { 31, 209, 154,  27}, 0, u"", {.inside = u"GroupBox3"}},
+    {u"GroupBox4",       Kind::GroupBox,       { 20, 248, 173,  55}, 6, u"Mobilité"},
+    {u"PopupMenu4",      Kind::PopupMenu,      { 31, 276, 154,  27}, 0, u"", {.inside = u"GroupBox4"}},
+    {u"GroupBox5",       Kind::GroupBox,       { 20, 315, 173,  55}, 7, u"Incontinence"},
+    {u"PopupMenu5",      Kind::PopupMenu,      { 31, 343, 154,  27}, 0, u"", {.inside = u"GroupBox5"}},
+    {u"RoundRectangle1", Kind::RoundRectangle, {  8, 389, 209,  39}, 6, u"", {.shape = {.oval = 16}}},
+    {u"StaticText1",     Kind::StaticText,     { 15, 396, 184,  24}, 0, u"",
+                                               {.inside = u"RoundRectangle1", .bold = true, .centred = true}},
 };
 
-// Each popup's rows, best first: the first row scores 4 and the last 1.
-constexpr std::array<std::pair<QStringView, QStringView>, 5> criteria{{
-    {u"PopupMenu1", u"Bonne,Moyenne,Pauvre,Très mauvaise"},
-    {u"PopupMenu2", u"Bon alerte,Apathique,Confus,Inconscient"},
-    {u"PopupMenu3", u"Ambulant,Marche avec aide,Assis,Totalement alité"},
-    {u"PopupMenu4", u"Totale,Diminuée,Très limitée,Immobile"},
-    {u"PopupMenu5", u"Aucune,Occasionelle,Urinaire,Urinaire et fécale"},
-}};
+constexpr LabelledBy labels[] = {
+    {u"PopupMenu1", u"GroupBox1"}, {u"PopupMenu2", u"GroupBox2"}, {u"PopupMenu3", u"GroupBox3"},
+    {u"PopupMenu4", u"GroupBox4"}, {u"PopupMenu5", u"GroupBox5"},
+};
+// clang-format on
+
+// Each criterion's rows, best first: the first row scores 4 and the last 1.
+constexpr std::array<QStringView, 5> criterionRows{
+    u"Bonne,Moyenne,Pauvre,Très mauvaise",
+    u"Bon alerte,Apathique,Confus,Inconscient",
+    u"Ambulant,Marche avec aide,Assis,Totalement alité",
+    u"Totale,Diminuée,Très limitée,Immobile",
+    u"Aucune,Occasionelle,Urinaire,Urinaire et fécale",
+};
 
 // The lowest score that is still a minimum risk.
 constexpr Int32 minimumRiskScore = 14;
@@ -102,28 +70,28 @@ void norton::Layout()
 
 void norton::CreateControls()
 {
-    createControls(layoutTable);
-    control<PopupMenu>(u"PopupMenu1").Change = [this](PopupMenu&) { PopupMenu1_Change(); };
-    control<PopupMenu>(u"PopupMenu2").Change = [this](PopupMenu&) { PopupMenu2_Change(); };
-    control<PopupMenu>(u"PopupMenu3").Change = [this](PopupMenu&) { PopupMenu3_Change(); };
-    control<PopupMenu>(u"PopupMenu4").Change = [this](PopupMenu&) { PopupMenu4_Change(); };
-    control<PopupMenu>(u"PopupMenu5").Change = [this](PopupMenu&) { PopupMenu5_Change(); };
+    createControls(layoutTable, labels);
+    connect(&criteria[0](), &PopupMenu::currentIndexChanged, this, &norton::PopupMenu1_Change);
+    connect(&criteria[1](), &PopupMenu::currentIndexChanged, this, &norton::PopupMenu2_Change);
+    connect(&criteria[2](), &PopupMenu::currentIndexChanged, this, &norton::PopupMenu3_Change);
+    connect(&criteria[3](), &PopupMenu::currentIndexChanged, this, &norton::PopupMenu4_Change);
+    connect(&criteria[4](), &PopupMenu::currentIndexChanged, this, &norton::PopupMenu5_Change);
 }
 
 void norton::AddMenuHandlers()
 {
-    AddMenuHandler(u"OptionsRAZ", [this] { return OptionsRAZ_Action(); });
-    AddMenuHandler(u"OptionsCopier", [this] { return OptionsCopier_Action(); });
+    AddMenuHandler(u"OptionsRAZ", &norton::OptionsRAZ_Action);
+    AddMenuHandler(u"OptionsCopier", &norton::OptionsCopier_Action);
 }
 
 // The popups stay on no row, and no result shows, until the user chooses.
 void norton::Event_Open()
 {
-    for (const auto& [name, rows] : criteria) {
-        auto& popup = control<PopupMenu>(name);
+    for (size_t criterion = 0; criterion < criterionRows.size(); ++criterion) {
+        const QStringView rows = criterionRows[criterion];
         const Int32 count = CountFields(rows, u",");
         for (Int32 i = 1; i <= count; ++i)
-            popup.AddRow(NthField(rows, u",", i));
+            criteria[criterion]().AddRow(NthField(rows, u",", i));
     }
 }
 
@@ -161,15 +129,15 @@ void norton::PopupMenu5_Change()
 bool norton::OptionsRAZ_Action()
 {
     for (const auto& criterion : criteria)
-        control<PopupMenu>(criterion.first).setListIndex(-1);
-    control<StaticText>(u"StaticText1").setText(QString());
+        criterion().setListIndex(-1);
+    StaticText1().setText(QString());
     return true;
 }
 
 // With nothing computed the clipboard gets the prefix alone.
 bool norton::OptionsCopier_Action()
 {
-    Clipboard::setText(u"Score de Norton : "_s + control<StaticText>(u"StaticText1").text());
+    Clipboard::setText(u"Score de Norton : "_s + StaticText1().text());
     return true;
 }
 
@@ -178,13 +146,13 @@ void norton::calc()
 {
     Int32 score = 0;
     for (const auto& criterion : criteria) {
-        const Int32 index = control<PopupMenu>(criterion.first).ListIndex();
+        const Int32 index = criterion().ListIndex();
         if (index == -1)
             return;
         score += 4 - index;
     }
     const QString risk = minimumRiskScore <= score ? u"Risque minimum - ["_s : u"Haut risque - ["_s;
-    control<StaticText>(u"StaticText1").setText(risk + Str(score) + u"]"_s);
+    StaticText1().setText(risk + Str(score) + u"]"_s);
 }
 
 } // namespace vorkan

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "core/accessor.h"
-#include "core/window.h"
+#include "accessor.h"
+#include "controls.h"
+#include "window.h"
 
 namespace vorkan {
 
@@ -12,8 +13,11 @@ class norton : public Window {
 public:
     static constexpr QStringView FullName = u"norton.norton";
 
-    bool OptionsRAZ_Action();
-    bool OptionsCopier_Action();
+    void PopupMenu1_Change();
+    void PopupMenu2_Change();
+    void PopupMenu3_Change();
+    void PopupMenu4_Change();
+    void PopupMenu5_Change();
 
     QAction& OptionsMenu() const { return menuItem(u"OptionsMenu"); }
     QAction& FileQuit() const { return menuItem(u"FileQuit"); }
@@ -21,6 +25,9 @@ public:
     QAction& OptionsCopier() const { return menuItem(u"OptionsCopier"); }
     QAction& UntitledSeparator0() const { return menuItem(u"UntitledSeparator0"); }
     QAction& OptionsRAZ() const { return menuItem(u"OptionsRAZ"); }
+
+    bool OptionsRAZ_Action();
+    bool OptionsCopier_Action();
 
 protected:
     void Layout() override;
@@ -34,11 +41,13 @@ private:
     friend class ImplicitWindows;
     norton();
 
-    void PopupMenu1_Change();
-    void PopupMenu2_Change();
-    void PopupMenu3_Change();
-    void PopupMenu4_Change();
-    void PopupMenu5_Change();
+    // The five criteria in their order, each with its rows, best first.
+    ControlRef<PopupMenu> criteria[5]{{this, u"PopupMenu1"},
+                                      {this, u"PopupMenu2"},
+                                      {this, u"PopupMenu3"},
+                                      {this, u"PopupMenu4"},
+                                      {this, u"PopupMenu5"}};
+    ControlRef<StaticText> StaticText1{this, u"StaticText1"};
 };
 
 VORKAN_ACCESSOR(norton)

@@ -1,8 +1,7 @@
 #include "pideal.h"
 
-#include "core/app.h"
-#include "core/controls.h"
-#include "core/textops.h"
+#include "app.h"
+#include "textops.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,59 +29,34 @@ constexpr SliderProps ageSlider{.minimum = 20,
 constexpr ControlProps inBox{.inside = u"GroupBox1"};
 
 // The age label's two blanks are what it shows until the age slider first moves.
+// clang-format off
 constexpr LayoutRow layoutTable[] = {
-    {u"Slider1",
-     Kind::Slider,
-     {149, 18, 230, 21},
-     0,
-     u"",
-     {.label = u"StaticText1", .slider = heightSlider}},
-    {u"StaticText1", Kind::StaticText, {20, 18, 117, 15}, 1, u"Taille (cm) : 160"},
-    {u"Slider2",
-     Kind::Slider,
-     {149, 45, 230, 21},
-     2,
-     u"",
-     {.label = u"StaticText2", .slider = ageSlider}},
-    {u"StaticText2", Kind::StaticText, {20, 45, 117, 15}, 3, u"Age (ans)  : 20"},
-    {u"PopupMenu1", Kind::PopupMenu, {20, 78, 105, 20}, 6, u"", {.accessibleName = u"Sexe"}},
-    {u"GroupBox1", Kind::GroupBox, {149, 78, 230, 127}, 10, u"Poids idéal (kg)"},
-    {u"StaticText7", Kind::StaticText, {192, 180, 63, 25}, 0, u"Lorentz II", inBox},
-    {u"StaticText6", Kind::StaticText, {192, 162, 104, 25}, 1, u"Huet et Godelsk", inBox},
-    {u"StaticText5", Kind::StaticText, {192, 143, 52, 25}, 2, u"Perrault", inBox},
-    {u"StaticText4", Kind::StaticText, {192, 125, 52, 25}, 3, u"Lorentz", inBox},
-    {u"StaticText3", Kind::StaticText, {192, 106, 38, 25}, 4, u"Broca", inBox},
-    {u"StaticText8",
-     Kind::StaticText,
-     {308, 109, 44, 19},
-     5,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText3"}},
-    {u"StaticText9",
-     Kind::StaticText,
-     {308, 128, 44, 19},
-     6,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText4"}},
-    {u"StaticText10",
-     Kind::StaticText,
-     {308, 145, 44, 20},
-     7,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText5"}},
-    {u"StaticText11",
-     Kind::StaticText,
-     {308, 165, 44, 19},
-     8,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText6"}},
-    {u"StaticText12",
-     Kind::StaticText,
-     {308, 183, 44, 19},
-     9,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText7"}},
+    // name           class              left  top width height tab text               other
+    {u"Slider1",      Kind::Slider,      {149,  18, 230,  21},  0, u"",                   {.slider = heightSlider}},
+    {u"StaticText1",  Kind::StaticText,  { 20,  18, 117,  15},  1, u"Taille (cm) : 160"},
+    {u"Slider2",      Kind::Slider,      {149,  45, 230,  21},  2, u"",                   {.slider = ageSlider}},
+    {u"StaticText2",  Kind::StaticText,  { 20,  45, 117,  15},  3, u"Age (ans)  : 20"},
+    {u"PopupMenu1",   Kind::PopupMenu,   { 20,  78, 105,  20},  6, u"",                   {.accessibleName = u"Sexe"}},
+    {u"GroupBox1",    Kind::GroupBox,    {149,  78, 230, 127}, 10, u"Poids idéal (kg)"},
+    {u"StaticText7",  Kind::StaticText,  {192, 180,  63,  25},  0, u"Lorentz II",         inBox},
+    {u"StaticText6",  Kind::StaticText,  {192, 162, 104,  25},  1, u"Huet et Godelsk",    inBox},
+    {u"StaticText5",  Kind::StaticText,  {192, 143,  52,  25},  2, u"Perrault",           inBox},
+    {u"StaticText4",  Kind::StaticText,  {192, 125,  52,  25},  3, u"Lorentz",            inBox},
+    {u"StaticText3",  Kind::StaticText,  {192, 106,  38,  25},  4, u"Broca",              inBox},
+    {u"StaticText8",  Kind::StaticText,  {308, 109,  44,  19},  5, u"0",                  inBox},
+    {u"StaticText9",  Kind::StaticText,  {308, 128,  44,  19},  6, u"0",                  inBox},
+    {u"StaticText10", Kind::StaticText,  {308, 145,  44,  20},  7, u"0",                  inBox},
+    {u"StaticText11", Kind::StaticText,  {308, 165,  44,  19},  8, u"0",                  inBox},
+    {u"StaticText12", Kind::StaticText,  {308, 183,  44,  19},  9, u"0",                  inBox},
 };
+
+constexpr LabelledBy labels[] = {
+    {u"Slider1",      u"StaticText1"}, {u"Slider2",      u"StaticText2"},
+    {u"StaticText8",  u"StaticText3"}, {u"StaticText9",  u"StaticText4"},
+    {u"StaticText10", u"StaticText5"}, {u"StaticText11", u"StaticText6"},
+    {u"StaticText12", u"StaticText7"},
+};
+// clang-format on
 
 } // namespace
 
@@ -95,36 +69,33 @@ class pideal& pideal()
 
 void pideal::CreateControls()
 {
-    createControls(layoutTable);
-    control<Slider>(u"Slider1").ValueChanged = [this](Slider&) { Slider1_ValueChanged(); };
-    control<Slider>(u"Slider2").ValueChanged = [this](Slider&) { Slider2_ValueChanged(); };
-    control<PopupMenu>(u"PopupMenu1").Change = [this](PopupMenu&) { PopupMenu1_Change(); };
+    createControls(layoutTable, labels);
+    connect(&Slider1(), &Slider::valueChanged, this, &pideal::Slider1_ValueChanged);
+    connect(&Slider2(), &Slider::valueChanged, this, &pideal::Slider2_ValueChanged);
+    connect(&PopupMenu1(), &PopupMenu::currentIndexChanged, this, &pideal::PopupMenu1_Change);
 }
 
 // The slider holds a height out of its range at its nearest end, and moving it
 // rewrites its label as a user's move would.
 void pideal::Event_Open()
 {
-    auto& sexe = control<PopupMenu>(u"PopupMenu1");
-    sexe.AddRow(u"homme"_s);
-    sexe.AddRow(u"femme"_s);
-    sexe.setListIndex(0);
+    PopupMenu1().AddRow(u"homme"_s);
+    PopupMenu1().AddRow(u"femme"_s);
+    PopupMenu1().setListIndex(0);
     if (App().taille != 0)
-        control<Slider>(u"Slider1").setValue(toInt32(App().taille));
+        Slider1().setValue(toInt32(App().taille));
     calc();
 }
 
 void pideal::Slider1_ValueChanged()
 {
-    control<StaticText>(u"StaticText1")
-        .setText(u"Taille (cm) : "_s + Str(Int32{control<Slider>(u"Slider1").value()}));
+    StaticText1().setText(u"Taille (cm) : "_s + Str(Int32{Slider1().value()}));
     calc();
 }
 
 void pideal::Slider2_ValueChanged()
 {
-    control<StaticText>(u"StaticText2")
-        .setText(u"Age (ans) : "_s + Str(Int32{control<Slider>(u"Slider2").value()}));
+    StaticText2().setText(u"Age (ans) : "_s + Str(Int32{Slider2().value()}));
     calc();
 }
 
@@ -135,29 +106,29 @@ void pideal::PopupMenu1_Change()
 
 Single pideal::factor(Single man, Single woman) const
 {
-    return control<PopupMenu>(u"PopupMenu1").ListIndex() == 0 ? man : woman;
+    return PopupMenu1().ListIndex() == 0 ? man : woman;
 }
 
-void pideal::write(QStringView name, Double value)
+void pideal::write(StaticText& result, Double value)
 {
-    control<StaticText>(name).setText(Str(static_cast<Single>(value)));
+    result.setText(Str(static_cast<Single>(value)));
 }
 
 // Integer steps stay Int32, the rest is Double; the factors k are Singles, so the
 // woman's 0.9 of Lorentz II is not the Double 0.9 of Perrault.
 void pideal::calc()
 {
-    const Int32 T = control<Slider>(u"Slider1").value();
-    const Int32 A = control<Slider>(u"Slider2").value();
+    const Int32 T = Slider1().value();
+    const Int32 A = Slider2().value();
     const Int32 P = T - 100;
     const Int32 overHundredFifty = T - 150;
 
-    write(u"StaticText8", P);
-    write(u"StaticText9", P - overHundredFifty / Double{factor(4.0f, 2.0f)});
-    write(u"StaticText10", P + (A / 10.0) * 0.9);
-    write(u"StaticText11", (P + A / 10.0) - (P / 10.0) * Double{factor(1.0f, 2.0f)});
+    write(StaticText8(), P);
+    write(StaticText9(), P - overHundredFifty / Double{factor(4.0f, 2.0f)});
+    write(StaticText10(), P + (A / 10.0) * 0.9);
+    write(StaticText11(), (P + A / 10.0) - (P / 10.0) * Double{factor(1.0f, 2.0f)});
     const Int32 sum = 3 * overHundredFifty + (A - 20);
-    write(u"StaticText12", (sum / 4.0 + 50) * Double{factor(1.0f, 0.9f)});
+    write(StaticText12(), (sum / 4.0 + 50) * Double{factor(1.0f, 0.9f)});
 }
 
 } // namespace vorkan

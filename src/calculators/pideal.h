@@ -1,8 +1,9 @@
 #pragma once
 
-#include "core/accessor.h"
-#include "core/types.h"
-#include "core/window.h"
+#include "accessor.h"
+#include "controls.h"
+#include "types.h"
+#include "window.h"
 
 namespace vorkan {
 
@@ -11,6 +12,10 @@ namespace vorkan {
 class pideal : public Window {
 public:
     static constexpr QStringView FullName = u"pideal.pideal";
+
+    void Slider1_ValueChanged();
+    void Slider2_ValueChanged();
+    void PopupMenu1_Change();
 
 protected:
     void CreateControls() override;
@@ -21,13 +26,20 @@ private:
     friend class ImplicitWindows;
     pideal();
 
-    void Slider1_ValueChanged();
-    void Slider2_ValueChanged();
-    void PopupMenu1_Change();
-
     // The sex factor, read from the popup anew at each formula: a man is row 0.
     Single factor(Single man, Single woman) const;
-    void write(QStringView name, Double value);
+    static void write(StaticText& result, Double value);
+
+    ControlRef<Slider> Slider1{this, u"Slider1"};
+    ControlRef<StaticText> StaticText1{this, u"StaticText1"};
+    ControlRef<Slider> Slider2{this, u"Slider2"};
+    ControlRef<StaticText> StaticText2{this, u"StaticText2"};
+    ControlRef<PopupMenu> PopupMenu1{this, u"PopupMenu1"};
+    ControlRef<StaticText> StaticText8{this, u"StaticText8"};
+    ControlRef<StaticText> StaticText9{this, u"StaticText9"};
+    ControlRef<StaticText> StaticText10{this, u"StaticText10"};
+    ControlRef<StaticText> StaticText11{this, u"StaticText11"};
+    ControlRef<StaticText> StaticText12{this, u"StaticText12"};
 };
 
 VORKAN_ACCESSOR(pideal)

@@ -1,8 +1,7 @@
 #include "surf.h"
 
-#include "core/app.h"
-#include "core/controls.h"
-#include "core/textops.h"
+#include "app.h"
+#include "textops.h"
 #include "tips.h"
 
 namespace vorkan {
@@ -11,58 +10,35 @@ namespace {
 
 constexpr WindowProps props{u"Surface corporelle", 330, 188};
 
+constexpr ControlProps threeDigits{.maskDigits = 3};
+constexpr ControlProps inBox{.inside = u"GroupBox1"};
+
 // The left column sits exactly where imc has it.
+// clang-format off
 constexpr LayoutRow layoutTable[] = {
-    {u"surftaille",
-     Kind::TextField,
-     {23, 39, 49, 25},
-     0,
-     u"170",
-     {.maskDigits = 3, .label = u"StaticText1"}},
-    {u"surfUpDownArrows1", Kind::UpDownArrows, {76, 39, 13, 25}, 1},
-    {u"StaticText1", Kind::StaticText, {20, 14, 69, 20}, 2, u"Taille (cm)"},
-    {u"surfpoids",
-     Kind::TextField,
-     {23, 101, 49, 25},
-     3,
-     u"70",
-     {.maskDigits = 3, .label = u"StaticText2"}},
-    {u"surfUpDownArrows2", Kind::UpDownArrows, {76, 101, 13, 25}, 4},
-    {u"StaticText2", Kind::StaticText, {23, 76, 69, 20}, 5, u"Poids (kg)"},
-    {u"surfaide", Kind::PushButton, {23, 141, 26, 27}, 6, u"?"},
-    {u"GroupBox1", Kind::GroupBox, {125, 26, 185, 100}, 13, u"Surface (m²)"},
-    {u"StaticText3", Kind::StaticText, {137, 47, 46, 21}, 0, u"Dubois", {.inside = u"GroupBox1"}},
-    {u"StaticText4",
-     Kind::StaticText,
-     {137, 68, 99, 21},
-     1,
-     u"Gehan && Gorge",
-     {.inside = u"GroupBox1"}},
-    {u"StaticText5",
-     Kind::StaticText,
-     {137, 90, 63, 21},
-     2,
-     u"Mosteller",
-     {.inside = u"GroupBox1"}},
-    {u"StaticText6",
-     Kind::StaticText,
-     {261, 46, 39, 22},
-     3,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText3"}},
-    {u"StaticText7",
-     Kind::StaticText,
-     {261, 67, 39, 22},
-     4,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText4"}},
-    {u"StaticText8",
-     Kind::StaticText,
-     {261, 89, 39, 22},
-     5,
-     u"0",
-     {.inside = u"GroupBox1", .label = u"StaticText5"}},
+    // name                class               left  top width height tab text        other
+    {u"surftaille",        Kind::TextField,    { 23,  39,  49,  25},  0, u"170",       threeDigits},
+    {u"surfUpDownArrows1", Kind::UpDownArrows, { 76,  39,  13,  25},  1},
+    {u"StaticText1",       Kind::StaticText,   { 20,  14,  69,  20},  2, u"Taille (cm)"},
+    {u"surfpoids",         Kind::TextField,    { 23, 101,  49,  25},  3, u"70",        threeDigits},
+    {u"surfUpDownArrows2", Kind::UpDownArrows, { 76, 101,  13,  25},  4},
+    {u"StaticText2",       Kind::StaticText,   { 23,  76,  69,  20},  5, u"Poids (kg)"},
+    {u"surfaide",          Kind::PushButton,   { 23, 141,  26,  27},  6, u"?"},
+    {u"GroupBox1",         Kind::GroupBox,     {125,  26, 185, 100}, 13, u"Surface (m²)"},
+    {u"StaticText3",       Kind::StaticText,   {137,  47,  46,  21},  0, u"Dubois",         inBox},
+    {u"StaticText4",       Kind::StaticText,   {137,  68,  99,  21},  1, u"Gehan && Gorge", inBox},
+    {u"StaticText5",       Kind::StaticText,   {137,  90,  63,  21},  2, u"Mosteller",      inBox},
+    {u"StaticText6",       Kind::StaticText,   {261,  46,  39,  22},  3, u"0",              inBox},
+    {u"StaticText7",       Kind::StaticText,   {261,  67,  39,  22},  4, u"0",              inBox},
+    {u"StaticText8",       Kind::StaticText,   {261,  89,  39,  22},  5, u"0",              inBox},
 };
+
+constexpr LabelledBy labels[] = {
+    {u"surftaille",  u"StaticText1"}, {u"surfpoids",   u"StaticText2"},
+    {u"StaticText6", u"StaticText3"}, {u"StaticText7", u"StaticText4"},
+    {u"StaticText8", u"StaticText5"},
+};
+// clang-format on
 
 } // namespace
 
@@ -75,21 +51,82 @@ class surf& surf()
 
 void surf::CreateControls()
 {
-    createControls(layoutTable);
-    bindSteppedField({u"surftaille", u"surfUpDownArrows1", 50, 250});
-    bindSteppedField({u"surfpoids", u"surfUpDownArrows2", 30, 250});
-    auto& aide = control<PushButton>(u"surfaide");
-    aide.MouseExit = [this](PushButton&) { surfaide_MouseExit(); };
-    aide.Action = [this](PushButton&) { surfaide_Action(); };
+    createControls(layoutTable, labels);
+    installStepped<surf>(surftaille(), surfUpDownArrows1(),
+                         {&surf::surftaille_MouseWheel, &surf::surftaille_KeyDown,
+                          &surf::surftaille_KeyUp, &surf::surfUpDownArrows1_MouseWheel,
+                          &surf::surfUpDownArrows1_Down, &surf::surfUpDownArrows1_Up});
+    installStepped<surf>(surfpoids(), surfUpDownArrows2(),
+                         {&surf::surfpoids_MouseWheel, &surf::surfpoids_KeyDown,
+                          &surf::surfpoids_KeyUp, &surf::surfUpDownArrows2_MouseWheel,
+                          &surf::surfUpDownArrows2_Down, &surf::surfUpDownArrows2_Up});
+    connect(&surfaide(), &PushButton::MouseExit, this, &surf::surfaide_MouseExit);
+    connect(&surfaide(), &PushButton::clicked, this, &surf::surfaide_Action);
 }
 
-void surf::Event_Open()
+bool surf::surftaille_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
 {
-    if (App().taille != 0)
-        control<TextField>(u"surftaille").setText(Str(App().taille));
-    if (App().poids != 0)
-        control<TextField>(u"surfpoids").setText(Str(App().poids));
+    return stepOnWheel(surftaille(), deltaY, heightLimits);
+}
+
+bool surf::surftaille_KeyDown(const QString& Key)
+{
+    return stepOnKey(surftaille(), Key, heightLimits);
+}
+
+void surf::surftaille_KeyUp()
+{
     calc();
+}
+
+bool surf::surfUpDownArrows1_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(surftaille(), deltaY, heightLimits);
+}
+
+void surf::surfUpDownArrows1_Down()
+{
+    diminue(surftaille(), heightLimits.lower);
+}
+
+void surf::surfUpDownArrows1_Up()
+{
+    augmente(surftaille(), heightLimits.upper);
+}
+
+bool surf::surfpoids_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(surfpoids(), deltaY, weightLimits);
+}
+
+bool surf::surfpoids_KeyDown(const QString& Key)
+{
+    return stepOnKey(surfpoids(), Key, weightLimits);
+}
+
+void surf::surfpoids_KeyUp()
+{
+    calc();
+}
+
+bool surf::surfUpDownArrows2_MouseWheel(Int32, Int32, Int32, Int32 deltaY)
+{
+    return stepOnWheel(surfpoids(), deltaY, weightLimits);
+}
+
+void surf::surfUpDownArrows2_Down()
+{
+    diminue(surfpoids(), weightLimits.lower);
+}
+
+void surf::surfUpDownArrows2_Up()
+{
+    augmente(surfpoids(), weightLimits.upper);
+}
+
+void surf::surfaide_MouseExit()
+{
+    hideTip();
 }
 
 // Unlike imc's, this tip breaks both lines with the platform's line ending.
@@ -98,16 +135,20 @@ void surf::surfaide_Action()
     showTip(steppingTip(EndOfLine()));
 }
 
-void surf::surfaide_MouseExit()
+void surf::Event_Open()
 {
-    hideTip();
+    if (App().taille != 0)
+        surftaille().setText(Str(App().taille));
+    if (App().poids != 0)
+        surfpoids().setText(Str(App().poids));
+    calc();
 }
 
 // H x W is a product of two Singles, rounded to Single before it is divided.
 void surf::calc()
 {
-    App().poids = static_cast<Single>(Val(control<TextField>(u"surfpoids").text()));
-    App().taille = static_cast<Single>(Val(control<TextField>(u"surftaille").text()));
+    App().poids = static_cast<Single>(Val(surfpoids().text()));
+    App().taille = static_cast<Single>(Val(surftaille().text()));
 
     const auto dubois =
         static_cast<Single>((0.007184 * Pow(App().taille, 0.725)) * Pow(App().poids, 0.425));
@@ -116,9 +157,9 @@ void surf::calc()
     const Single heightTimesWeight = App().taille * App().poids;
     const auto mosteller = static_cast<Single>(Pow(heightTimesWeight / 3600.0, 0.5));
 
-    control<StaticText>(u"StaticText6").setText(Format(dubois, u"0.00"));
-    control<StaticText>(u"StaticText7").setText(Format(gehanGorge, u"0.00"));
-    control<StaticText>(u"StaticText8").setText(Format(mosteller, u"0.00"));
+    StaticText6().setText(Format(dubois, u"0.00"));
+    StaticText7().setText(Format(gehanGorge, u"0.00"));
+    StaticText8().setText(Format(mosteller, u"0.00"));
 }
 
 } // namespace vorkan

@@ -1,7 +1,7 @@
 #include "tips.h"
 
-#include "core/platform.h"
-#include "core/textops.h"
+#include "platform.h"
+#include "textops.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,8 @@
 #include "app.h"
 
 #include "accessibility.h"
+#include "platform.h"
+#include "version.h"
 
 #include <QMessageBox>
 
@@ -15,7 +17,13 @@ App::App(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(u"Vorkan MAC"_s);
     setOrganizationName(u"Vorkan"_s);
+    setApplicationVersion(QStringLiteral(VORKAN_VERSION));
     installAccessibility();
+}
+
+App::~App()
+{
+    Tooltip::release();
 }
 
 void App::Event_Open()

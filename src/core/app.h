@@ -11,6 +11,7 @@ namespace vorkan {
 class App : public QApplication {
 public:
     App(int& argc, char** argv);
+    ~App() override;
 
     // Weight in kilograms and height in centimetres as last calculated; 0 until then.
     Single poids = 0;

@@ -24,7 +24,7 @@ QWidget* makeTextField(const LayoutRow& row, QWidget* parent)
 {
     auto* field = new TextField(parent);
     if (row.props.maskDigits > 0)
-        field->setDigitMask(row.props.maskDigits);
+        field->setDigitMask(row.props.maskDigits, row.props.groupedDigits);
     field->setReadOnly(row.props.readOnly);
     field->setText(row.text.toString());
     if (row.props.centred)

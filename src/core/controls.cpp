@@ -1,12 +1,15 @@
 #include "controls.h"
 
 #include "accessibility.h"
+#include "digitmask.h"
+#include "platform.h"
 #include "textops.h"
+#include "tipwidget.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -35,29 +38,121 @@ QString keyText(const QKeyEvent& event)
     }
 }
 
+// Shift, Ctrl, Alt, AltGr, Meta and the lock keys change what the next key types; on
+// their own they are no key of the field's.
+bool isModifierAlone(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_Mode_switch:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A key that types a character, as a line edit tells one: not Return, Tab or the
+// like, and not a Ctrl shortcut (Ctrl with Alt is AltGr on Windows, which types).
+bool typesText(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return !event.text().isEmpty() && event.text().front().isPrint() &&
+           held != Qt::ControlModifier && held != Qt::MetaModifier;
+}
+
 } // namespace
 
 TextField::TextField(QWidget* parent) : RectControl(parent) {}
 
-void TextField::setDigitMask(int digits)
+// A grouped field has no length limit of its own: a pasted number would be cut short
+// before its separators go; the mask counts the digits instead.
+void TextField::setDigitMask(int digits, bool grouped)
 {
-    setMaxLength(digits);
-    setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,%1}"_s.arg(digits)), this));
+    if (!grouped)
+        setMaxLength(digits);
+    mask_ = new DigitMask(digits, grouped, this);
+    setValidator(mask_);
 }
 
-void TextField::keyPressEvent(QKeyEvent* event)
+bool TextField::event(QEvent* event)
 {
-    if (KeyDown && KeyDown(*this, keyText(*event)))
-        return;
-    QLineEdit::keyPressEvent(event);
+    if (event->type() == QEvent::KeyPress && keyDown(static_cast<QKeyEvent&>(*event)))
+        return true;
+    return RectControl::event(event);
+}
+
+// Runs KeyDown, then holds back a key the mask refuses; true when the key is dealt with.
+bool TextField::keyDown(QKeyEvent& event)
+{
+    if (isModifierAlone(event))
+        return false;
+    hideBalloon();
+    if (KeyDown && KeyDown(keyText(event)))
+        return true;
+    if (!mask_ || isReadOnly())
+        return false;
+    if (event.matches(QKeySequence::Paste)) {
+        pasteFromKey(event);
+        return true;
+    }
+    return typesText(event) && refuse(mask_->refusal(*this, event.text()));
+}
+
+// A paste the mask turns away leaves the text as it was, which says it was refused.
+void TextField::pasteFromKey(QKeyEvent& event)
+{
+    const QString before = text();
+    QLineEdit::keyPressEvent(&event);
+    const QString pasted = QGuiApplication::clipboard()->text();
+    if (text() == before && !pasted.isEmpty())
+        refuse(mask_->refusal(*this, pasted));
+}
+
+bool TextField::refuse(const QString& why)
+{
+    if (why.isEmpty())
+        return false;
+    QApplication::beep();
+    if (!balloon_)
+        balloon_ = new TipWidget(window());
+    constexpr int balloonMs = 4000;
+    balloon_->showAt(why, mapToGlobal(QPoint(0, height() + 2)), balloonMs);
+    return true;
+}
+
+void TextField::hideBalloon()
+{
+    if (balloon_)
+        balloon_->hide();
+}
+
+const QLabel* TextField::balloon() const
+{
+    return balloon_ && balloon_->isVisible() ? balloon_.data() : nullptr;
+}
+
+void TextField::focusOutEvent(QFocusEvent* event)
+{
+    hideBalloon();
+    QLineEdit::focusOutEvent(event);
 }
 
 void TextField::keyReleaseEvent(QKeyEvent* event)
 {
     QLineEdit::keyReleaseEvent(event);
-    if (KeyUp)
-        KeyUp(*this, keyText(*event));
+    Q_EMIT KeyUp(keyText(*event));
 }
 
 void TextField::wheelEvent(QWheelEvent* event)
@@ -65,7 +160,7 @@ void TextField::wheelEvent(QWheelEvent* event)
     // The framework counts a turn away from the user as a negative delta.
     const QPoint at = event->position().toPoint();
     const QPoint delta = event->angleDelta();
-    if (MouseWheel && MouseWheel(*this, at.x(), at.y(), -delta.x(), -delta.y()))
+    if (MouseWheel && MouseWheel(at.x(), at.y(), -delta.x(), -delta.y()))
         return;
     QLineEdit::wheelEvent(event);
 }
@@ -113,7 +208,7 @@ void StaticText::paintEvent(QPaintEvent*)
 void StaticText::mousePressEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
-    if (MouseDown && MouseDown(*this, at.x(), at.y()))
+    if (MouseDown && MouseDown(at.x(), at.y()))
         return;
     QLabel::mousePressEvent(event);
 }
@@ -121,43 +216,55 @@ void StaticText::mousePressEvent(QMouseEvent* event)
 void StaticText::leaveEvent(QEvent* event)
 {
     QLabel::leaveEvent(event);
-    if (MouseExit)
-        MouseExit(*this);
+    Q_EMIT MouseExit();
 }
 
 BevelButton::BevelButton(QWidget* parent) : RectControl(parent)
 {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (Action)
-            Action(*this);
-    });
+}
+
+void BevelButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 PushButton::PushButton(QWidget* parent) : RectControl(parent)
 {
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (Action)
-            Action(*this);
-    });
 }
 
 void PushButton::leaveEvent(QEvent* event)
 {
     QPushButton::leaveEvent(event);
-    if (MouseExit)
-        MouseExit(*this);
+    Q_EMIT MouseExit();
 }
 
-PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
+void PushButton::keyPressEvent(QKeyEvent* event)
 {
-    connect(this, &QComboBox::currentIndexChanged, this, [this] {
-        if (Change)
-            Change(*this);
-    });
+    pressedFromKeyboard_ = true;
+    QPushButton::keyPressEvent(event);
 }
+
+void PushButton::mousePressEvent(QMouseEvent* event)
+{
+    pressedFromKeyboard_ = false;
+    QPushButton::mousePressEvent(event);
+}
+
+void PushButton::focusOutEvent(QFocusEvent* event)
+{
+    QPushButton::focusOutEvent(event);
+    if (pressedFromKeyboard_ && !underMouse())
+        Tooltip::Hide();
+    pressedFromKeyboard_ = false;
+}
+
+PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent) {}
 
 // Qt would choose the first row added to an empty list by itself.
 void PopupMenu::AddRow(const QString& text)
@@ -166,14 +273,6 @@ void PopupMenu::AddRow(const QString& text)
     const int chosen = currentIndex();
     addItem(text);
     setCurrentIndex(chosen);
-}
-
-Slider::Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent)
-{
-    connect(this, &QSlider::valueChanged, this, [this] {
-        if (ValueChanged)
-            ValueChanged(*this);
-    });
 }
 
 } // namespace vorkan

@@ -14,6 +14,15 @@
 
 namespace vorkan {
 
+class DigitMask;
+class TipWidget;
+
+// The handlers that answer whether they consumed their event, which a Qt signal
+// cannot; every other event of a control is a signal.
+using KeyDownHandler = std::function<bool(const QString& key)>;
+using MouseWheelHandler = std::function<bool(Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)>;
+using MouseDownHandler = std::function<bool(Int32 x, Int32 y)>;
+
 // What every control of a window can do beyond its Qt base.
 template<class Base> class RectControl : public Base {
 public:
@@ -24,25 +33,45 @@ public:
     void Refresh(bool /*now*/ = true) { this->update(); }
 };
 
-// A one-line field. KeyDown runs before the field sees the key, so the text is still
-// the one from before the key, also for a key the field will refuse.
+// A one-line field. KeyDown runs before the field sees the key, Tab included, so the
+// text is still the one from before the key, also for a key the field will refuse; a
+// modifier pressed alone is no key. A key or a paste that the mask refuses beeps and
+// says why in a balloon below the field, until the next key or for a few seconds.
 class TextField : public RectControl<QLineEdit> {
     Q_OBJECT
 
 public:
     explicit TextField(QWidget* parent);
 
-    // Up to that many digits and nothing else.
-    void setDigitMask(int digits);
+    // Up to that many digits and nothing else; a grouped field takes a pasted number
+    // written in groups as its digits.
+    void setDigitMask(int digits, bool grouped = false);
 
-    std::function<bool(TextField&, const QString& key)> KeyDown;
-    std::function<void(TextField&, const QString& key)> KeyUp;
-    std::function<bool(TextField&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
+    // The balloon while it is up, else null.
+    const QLabel* balloon() const;
+
+    KeyDownHandler KeyDown;
+    MouseWheelHandler MouseWheel;
+
+Q_SIGNALS:
+    // After the key has reached the field.
+    void KeyUp(const QString& key);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool keyDown(QKeyEvent& event);
+    void pasteFromKey(QKeyEvent& event);
+    // Beeps and says why in the balloon; false when there is nothing to say.
+    bool refuse(const QString& why);
+    void hideBalloon();
+
+    DigitMask* mask_ = nullptr;
+    QPointer<TipWidget> balloon_;
 };
 
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
@@ -61,8 +90,10 @@ public:
     // and whenever the caption changes.
     void labels(QWidget& control, const QString& prefix);
 
-    std::function<bool(StaticText&, Int32 x, Int32 y)> MouseDown;
-    std::function<void(StaticText&)> MouseExit;
+    MouseDownHandler MouseDown;
+
+Q_SIGNALS:
+    void MouseExit();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -75,28 +106,42 @@ private:
     QString labelPrefix_;
 };
 
-// A button that never takes the keyboard focus.
+// A button that a click never gives the focus, so that typing goes on in the field
+// that had it; Tab reaches it, and Space or Return presses it. Its Action is clicked.
 class BevelButton : public RectControl<QPushButton> {
     Q_OBJECT
 
 public:
     explicit BevelButton(QWidget* parent);
-    std::function<void(BevelButton&)> Action;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
+// A button, whose Action is clicked. One pressed from the keyboard, away from the
+// pointer, lets the tip it showed go when the focus leaves it, since no MouseExit
+// will come.
 class PushButton : public RectControl<QPushButton> {
     Q_OBJECT
 
 public:
     explicit PushButton(QWidget* parent);
-    std::function<void(PushButton&)> Action;
-    std::function<void(PushButton&)> MouseExit;
+
+Q_SIGNALS:
+    void MouseExit();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool pressedFromKeyboard_ = false;
 };
 
-// A pop-up list; ListIndex is -1 while no row is chosen, and shows blank.
+// A pop-up list; ListIndex is -1 while no row is chosen, and shows blank. Its Change
+// is currentIndexChanged.
 class PopupMenu : public RectControl<QComboBox> {
     Q_OBJECT
 
@@ -107,15 +152,14 @@ public:
     void AddRow(const QString& text);
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index) { setCurrentIndex(index); }
-    std::function<void(PopupMenu&)> Change;
 };
 
+// A horizontal slider; its ValueChanged is valueChanged.
 class Slider : public RectControl<QSlider> {
     Q_OBJECT
 
 public:
-    explicit Slider(QWidget* parent);
-    std::function<void(Slider&)> ValueChanged;
+    explicit Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent) {}
 };
 
 class GroupBox : public RectControl<QGroupBox> {

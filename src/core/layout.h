@@ -50,9 +50,9 @@ struct ControlProps {
     int textSize = 0; // points; 0 keeps the application's size
     bool centred = false;
     bool readOnly = false;
-    int maskDigits = 0; // a Mask of that many "#"
+    int maskDigits = 0;         // a Mask of that many "#"
+    bool groupedDigits = false; // a pasted number may be written in groups of digits
     QStringView helpTag{};
-    QStringView label{};          // the control whose caption names this one to assistive tools
     QStringView accessibleName{}; // a name for a control that has no visible label
     bool enabled = true;
     QLine line{}; // a Line's end points, from the window's top left
@@ -69,6 +69,12 @@ struct LayoutRow {
     int tab; // -1 where the control has no place in the tab order
     QStringView text{};
     ControlProps props{};
+};
+
+// A control and the label whose caption names it to assistive tools.
+struct LabelledBy {
+    QStringView control;
+    QStringView label;
 };
 
 } // namespace vorkan

@@ -11,6 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace vorkan {
 
+MenuItem menuItem(const QString& name, const QString& text)
+{
+    return {name, text, {}, false, {}};
+}
+
+MenuItem quitMenuItem()
+{
+    return {u"FileQuit"_s, u"Quitter"_s, u"Cmd+Q"_s, true, {}};
+}
+
 MenuItem& MenuBar::Child(QStringView name)
 {
     for (MenuItem& menu : menus_)
@@ -29,31 +39,30 @@ QKeySequence shortcutOf(const MenuItem& item)
     return QKeySequence(keys, QKeySequence::PortableText);
 }
 
-void addItem(QMenu& menu, const MenuItem& item,
-             const std::function<void(const MenuItem&)>& onTriggered)
+void addItem(QMenu& menu, const MenuItem& item)
 {
     QAction* action = item.isSeparator() ? menu.addSeparator() : menu.addAction(item.Text);
     action->setObjectName(item.Name);
     if (item.isSeparator())
         return;
     action->setShortcut(shortcutOf(item));
-    if (item.quits)
+    action->setEnabled(item.quits);
+    if (item.quits) {
         action->setMenuRole(QAction::QuitRole);
-    QObject::connect(action, &QAction::triggered, action,
-                     [item, onTriggered] { onTriggered(item); });
+        QObject::connect(action, &QAction::triggered, action, &quitApplication);
+    }
 }
 
 } // namespace
 
-QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window,
-                       const std::function<void(const MenuItem&)>& onTriggered)
+QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window)
 {
     auto* bar = new QMenuBar(window);
     for (const MenuItem& menuItem : model.menus()) {
         QMenu* menu = bar->addMenu(menuItem.Text);
         menu->setObjectName(menuItem.Name);
         for (const MenuItem& item : menuItem.children)
-            addItem(*menu, item, onTriggered);
+            addItem(*menu, item);
     }
     return bar;
 }

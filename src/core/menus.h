@@ -2,28 +2,29 @@
 
 #include <QString>
 
-#include <functional>
 #include <vector>
 
-class QAction;
 class QMenuBar;
 class QWidget;
 
 namespace vorkan {
 
 // An item of a menu bar as the program describes it; a window shows it as a Qt
-// action. Code finds an item by its name.
+// action named after it, by which code finds it.
 struct MenuItem {
     QString Name;
     QString Text; // "&" marks the mnemonic, "-" makes a separator
     QString KeyboardShortcut;
-    bool AutoEnable = true;
     bool quits = false; // the item that closes every window and ends the program
     std::vector<MenuItem> children;
 
     bool isSeparator() const { return Text == u'-'; }
     void Append(MenuItem item) { children.push_back(std::move(item)); }
 };
+
+MenuItem menuItem(const QString& name, const QString& text);
+// "Quitter", Cmd+Q (Ctrl+Q but on macOS), which works from every window.
+MenuItem quitMenuItem();
 
 // The description of a window's menus; each window builds its own bar from it.
 class MenuBar {
@@ -39,10 +40,16 @@ private:
     std::vector<MenuItem> menus_;
 };
 
-// Builds a window's bar from the description: each action is named after its item
-// and reports its item to onTriggered.
-QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window,
-                       const std::function<void(const MenuItem&)>& onTriggered);
+// A menu bar's one instance, built on first use and kept for the life of the process.
+template<class Bar> Bar& menuBarInstance()
+{
+    static Bar instance;
+    return instance;
+}
+
+// Builds a window's bar from the description. Every item starts disabled until a
+// handler of the window takes it, but for the one that quits, which always works.
+QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window);
 
 // Closes every window, then ends the program.
 void quitApplication();

@@ -1,5 +1,7 @@
 #include "platform.h"
 
+#include "tipwidget.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QCursor>
@@ -11,10 +13,6 @@
 #include <QPointer>
 #include <QProcess>
 #include <QScreen>
-#include <QTimer>
-#include <QToolTip>
-
-#include <utility>
 
 #include <cstdio>
 
@@ -24,64 +22,9 @@ namespace vorkan {
 
 namespace {
 
+// The program's one tip, made when first needed and kept until the program ends.
+TipWidget* programTip = nullptr;
 QPointer<QWidget> tipOwner;
-
-// Qt places a tip below and right of the point it is given, by the cursor's size, and
-// keeps it on the screen; the tip goes where the caller asked instead.
-void moveTipTo(QPoint corner)
-{
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->inherits("QTipLabel") && widget->isVisible())
-            widget->move(corner);
-}
-
-// A tip stays up until the pointer leaves its control, as long as anyone reads it.
-constexpr int tipDisplayMs = 10 * 60 * 1000;
-
-void showTipAt(const QString& lines, QPoint corner)
-{
-    QToolTip::showText(corner, lines, nullptr, {}, tipDisplayMs);
-    moveTipTo(corner);
-}
-
-// Qt hides a tip at every click, also at the release of the very click whose press
-// asked for it. Until the next press, a release shows the tip again: a tip asked for
-// on a release, as by a button, has seen its release already and is left alone. The
-// press that asked for the tip may still be passing on to the parent controls, so
-// presses count only from the next turn of the event loop.
-class ShowAgainOnRelease : public QObject {
-public:
-    ShowAgainOnRelease(QString lines, QPoint corner) : lines_(std::move(lines)), corner_(corner)
-    {
-        qApp->installEventFilter(this);
-        QTimer::singleShot(0, this, [this] { pressesCount_ = true; });
-    }
-
-protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        const bool press = event->type() == QEvent::MouseButtonPress ||
-                           event->type() == QEvent::MouseButtonDblClick;
-        if (press && pressesCount_) {
-            qApp->removeEventFilter(this);
-            deleteLater();
-        } else if (event->type() == QEvent::MouseButtonRelease) {
-            qApp->removeEventFilter(this);
-            QTimer::singleShot(0, this, [this] {
-                showTipAt(lines_, corner_);
-                deleteLater();
-            });
-        }
-        return false;
-    }
-
-private:
-    QString lines_;
-    QPoint corner_;
-    bool pressesCount_ = false;
-};
-
-QPointer<ShowAgainOnRelease> tipAfterRelease;
 
 } // namespace
 
@@ -89,18 +32,18 @@ namespace Tooltip {
 
 void Show(const QString& text, Int32 x, Int32 y, bool /*persistent*/)
 {
-    delete tipAfterRelease;
+    if (!programTip)
+        programTip = new TipWidget;
     QString lines = text;
     lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     tipOwner = QApplication::activeWindow();
-    showTipAt(lines, QPoint(x, y));
-    tipAfterRelease = new ShowAgainOnRelease(lines, QPoint(x, y));
+    programTip->showAt(lines, QPoint(x, y));
 }
 
 void Hide()
 {
-    delete tipAfterRelease;
-    QToolTip::hideText();
+    if (programTip)
+        programTip->hide();
     tipOwner = nullptr;
 }
 
@@ -108,6 +51,17 @@ void windowClosing(const QWidget* window)
 {
     if (!tipOwner || tipOwner == window)
         Hide();
+}
+
+const QLabel* shown()
+{
+    return programTip && programTip->isVisible() ? programTip : nullptr;
+}
+
+void release()
+{
+    delete programTip;
+    programTip = nullptr;
 }
 
 } // namespace Tooltip

@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QString>
 
+class QLabel;
 class QWidget;
 
 namespace vorkan {
@@ -19,6 +20,10 @@ void Show(const QString& text, Int32 x, Int32 y, bool persistent);
 void Hide();
 // Hides the tip if it was shown while that window, or no window, was the active one.
 void windowClosing(const QWidget* window);
+// The tip while it is up, else null.
+const QLabel* shown();
+// Deletes the tip; the application object does it before it goes.
+void release();
 } // namespace Tooltip
 
 namespace System {

@@ -1,5 +1,7 @@
 #include "textops.h"
 
+#include "power.h"
+
 #include <QLocale>
 
 #include <array>
@@ -229,7 +231,7 @@ QString NthField(QStringView text, QStringView separator, Int32 index)
 
 Double Pow(Double base, Double exponent)
 {
-    return std::pow(base, exponent);
+    return roundedPower(base, exponent);
 }
 
 QString EndOfLine()

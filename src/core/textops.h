@@ -24,6 +24,7 @@ QString Chr(Int32 code);
 Int32 Len(QStringView text);
 Int32 CountFields(QStringView text, QStringView separator);
 QString NthField(QStringView text, QStringView separator, Int32 index);
+// The exact power rounded to nearest, the same on every platform and processor.
 Double Pow(Double base, Double exponent);
 QString EndOfLine();
 

@@ -46,10 +46,10 @@ UpDownArrows::Part UpDownArrows::partAt(QPoint at) const
 
 void UpDownArrows::step()
 {
-    if (pressed_ == Part::Up && Up)
-        Up(*this);
-    else if (pressed_ == Part::Down && Down)
-        Down(*this);
+    if (pressed_ == Part::Up)
+        Q_EMIT Up();
+    else if (pressed_ == Part::Down)
+        Q_EMIT Down();
 }
 
 void UpDownArrows::stop()
@@ -83,7 +83,7 @@ void UpDownArrows::wheelEvent(QWheelEvent* event)
 {
     const QPoint at = event->position().toPoint();
     const QPoint delta = event->angleDelta();
-    if (MouseWheel && MouseWheel(*this, at.x(), at.y(), -delta.x(), -delta.y()))
+    if (MouseWheel && MouseWheel(at.x(), at.y(), -delta.x(), -delta.y()))
         return;
     event->accept();
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "types.h"
+#include "controls.h"
 
 #include <QTimer>
 #include <QWidget>
-
-#include <functional>
 
 namespace vorkan {
 
@@ -17,12 +15,14 @@ class UpDownArrows : public QWidget {
 public:
     explicit UpDownArrows(QWidget* parent);
 
-    std::function<void(UpDownArrows&)> Up;
-    std::function<void(UpDownArrows&)> Down;
-    std::function<bool(UpDownArrows&, Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)> MouseWheel;
+    MouseWheelHandler MouseWheel;
 
     void Refresh(bool /*now*/ = true) { update(); }
     QSize sizeHint() const override { return {13, 25}; }
+
+Q_SIGNALS:
+    void Up();
+    void Down();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

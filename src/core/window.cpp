@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -62,6 +63,8 @@ Window::Window(const WindowProps& props)
     column->setSpacing(0);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(client_);
+    if (props.closesWithKey)
+        new QShortcut(QKeySequence::Close, this, this, &Window::Close);
 }
 
 Window::~Window()
@@ -76,7 +79,6 @@ void Window::build()
         setMenuBar(*App().MenuBar);
     CreateControls();
     AddMenuHandlers();
-    EnableMenuItems();
     Event_Open();
     show();
 }
@@ -94,15 +96,8 @@ void Window::Layout()
 void Window::setMenuBar(const MenuBar& bar)
 {
     delete menuBar_;
-    menuBar_ = buildMenuBar(bar, this, [this](const MenuItem& item) { handleMenuCommand(item); });
-    for (QMenu* menu : menus())
-        connect(menu, &QMenu::aboutToShow, this, &Window::EnableMenuItems);
+    menuBar_ = buildMenuBar(bar, this);
     layout()->setMenuBar(menuBar_);
-}
-
-void Window::AddMenuHandler(QStringView itemName, std::function<bool()> handler)
-{
-    menuHandlers_.insert(itemName.toString(), std::move(handler));
 }
 
 QAction& Window::menuItem(QStringView name) const
@@ -132,29 +127,38 @@ QList<QMenu*> Window::menus() const
     return own;
 }
 
-// Only the items this window answers are enabled, so that a command never reaches a
-// window that has nothing to do with it; quitting works everywhere.
-void Window::EnableMenuItems()
+// Where the client area lies inside the window's own geometry: below its menu bar.
+QPoint Window::clientOffset() const
 {
-    for (QMenu* menu : menus())
-        for (QAction* action : menu->actions())
-            if (!action->isSeparator())
-                action->setEnabled(action->menuRole() == QAction::QuitRole ||
-                                   menuHandlers_.contains(action->objectName()));
+    layout()->activate();
+    return client_->pos();
 }
 
-void Window::handleMenuCommand(const MenuItem& item)
+int Window::Left() const
 {
-    if (item.quits) {
-        quitApplication();
-        return;
-    }
-    if (const auto handler = menuHandlers_.value(item.Name))
-        handler();
+    return geometry().x() + clientOffset().x();
+}
+
+int Window::Top() const
+{
+    return geometry().y() + clientOffset().y();
+}
+
+void Window::setLeft(int left)
+{
+    const QPoint offset = clientOffset();
+    setGeometry(QRect(QPoint(left - offset.x(), geometry().y()), size()));
+}
+
+void Window::setTop(int top)
+{
+    const QPoint offset = clientOffset();
+    setGeometry(QRect(QPoint(geometry().x(), top - offset.y()), size()));
 }
 
 void Window::Show()
 {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
@@ -173,7 +177,12 @@ void Window::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-void Window::createControls(std::span<const LayoutRow> rows)
+ControlRefBase::ControlRefBase(Window* window, QStringView name) : name_(name)
+{
+    window->controlRefs_.push_back(this);
+}
+
+void Window::createControls(std::span<const LayoutRow> rows, std::span<const LabelledBy> labels)
 {
     for (const LayoutRow& row : rows) {
         QWidget* parent =
@@ -184,13 +193,14 @@ void Window::createControls(std::span<const LayoutRow> rows)
             widget->setGeometry(row.geometry.translated(-parent->mapTo(client_, QPoint(0, 0))));
         controls_.insert(row.name.toString(), widget);
     }
-    for (const LayoutRow& row : rows) {
-        if (!row.props.label.isEmpty())
-            applyLabel(control<QWidget>(row.name), control<QWidget>(row.props.label));
+    for (const LabelledBy& pair : labels)
+        applyLabel(control<QWidget>(pair.control), control<QWidget>(pair.label));
+    for (const LayoutRow& row : rows)
         if (!row.props.accessibleName.isEmpty())
             control<QWidget>(row.name).setAccessibleName(row.props.accessibleName.toString());
-    }
     applyTabOrder(rows);
+    for (ControlRefBase* ref : controlRefs_)
+        ref->resolve(*this);
 }
 
 // Focus moves through a parent's controls by their tab index, and into a container's

@@ -3,22 +3,22 @@
 #include "layout.h"
 #include "nilobjectexception.h"
 
+#include <QAction>
 #include <QHash>
 #include <QList>
 #include <QString>
 #include <QWidget>
 
-#include <functional>
 #include <span>
+#include <vector>
 
-class QAction;
 class QMenu;
 class QMenuBar;
 
 namespace vorkan {
 
+class ControlRefBase;
 class MenuBar;
-struct MenuItem;
 
 // The fixed properties of a window class.
 struct WindowProps {
@@ -26,6 +26,7 @@ struct WindowProps {
     int width; // of the client area, below any menu bar
     int height;
     bool maximizeButton = false;
+    bool closesWithKey = true; // the platform's Close key (Ctrl+W) closes it
 };
 
 // A top-level window of fixed size whose controls come from a layout table. It is
@@ -37,13 +38,16 @@ class Window : public QWidget {
 public:
     ~Window() override;
 
+    // Brings the window up and to the front, also from the task bar where it was
+    // minimised.
     void Show();
     void Close();
 
-    int Left() const { return x(); }
-    int Top() const { return y(); }
-    void setLeft(int left) { move(left, y()); }
-    void setTop(int top) { move(x(), top); }
+    // Where the client area stands on the screen, below the title bar and any menu bar.
+    int Left() const;
+    int Top() const;
+    void setLeft(int left);
+    void setTop(int top);
     int Width() const { return props_.width; }
     int Height() const { return props_.height; }
 
@@ -70,29 +74,65 @@ protected:
     virtual void Event_Open() {}
     virtual void Event_Close() {}
 
-    void createControls(std::span<const LayoutRow> rows);
+    // Makes the controls of the layout table, names each after its label for assistive
+    // tools, and finds the controls the window's code uses.
+    void createControls(std::span<const LayoutRow> rows, std::span<const LabelledBy> labels = {});
     // The window's menus; a window that sets none shows the application's.
     void setMenuBar(const MenuBar& bar);
-    // The command of that item reaches this handler while this window is in front;
-    // an item with no handler here is disabled, but for the one that quits.
-    void AddMenuHandler(QStringView itemName, std::function<bool()> handler);
+    // The command of that item, enabled from now on, reaches this handler of the window.
+    template<class W> void AddMenuHandler(QStringView itemName, bool (W::*handler)())
+    {
+        QAction& item = menuItem(itemName);
+        item.setEnabled(true);
+        connect(&item, &QAction::triggered, static_cast<W*>(this), handler);
+    }
     QWidget& clientArea() const { return *client_; }
 
     void closeEvent(QCloseEvent* event) override;
 
 private:
     friend class ImplicitWindows;
+    friend class ControlRefBase;
     void build();
+    QPoint clientOffset() const;
     void applyTabOrder(std::span<const LayoutRow> rows);
     QList<QMenu*> menus() const;
-    void EnableMenuItems();
-    void handleMenuCommand(const MenuItem& item);
 
     WindowProps props_;
     QWidget* client_;
     QMenuBar* menuBar_ = nullptr;
     QHash<QString, QWidget*> controls_;
-    QHash<QString, std::function<bool()>> menuHandlers_;
+    std::vector<ControlRefBase*> controlRefs_;
+};
+
+// A control that the window's code uses, found by its name and class once, when the
+// window's controls are made, so that a wrong name or class stops the window from
+// opening instead of failing later in a handler.
+class ControlRefBase {
+public:
+    ControlRefBase(const ControlRefBase&) = delete;
+    ControlRefBase& operator=(const ControlRefBase&) = delete;
+
+protected:
+    ControlRefBase(Window* window, QStringView name);
+    ~ControlRefBase() = default;
+
+    QStringView name_;
+
+private:
+    friend class Window;
+    virtual void resolve(const Window& window) = 0;
+};
+
+template<class Control> class ControlRef final : public ControlRefBase {
+public:
+    ControlRef(Window* window, QStringView name) : ControlRefBase(window, name) {}
+    Control& operator()() const { return *control_; }
+
+private:
+    void resolve(const Window& window) override { control_ = &window.control<Control>(name_); }
+
+    Control* control_ = nullptr;
 };
 
 // One live window per class, found by the class's full name ("imc.imc"). A window is

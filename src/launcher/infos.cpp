@@ -1,6 +1,7 @@
 #include "infos.h"
 
-#include "core/textops.h"
+#include "textops.h"
+#include "version.h"
 
 #include <QStringList>
 
@@ -11,7 +12,7 @@ namespace vorkan {
 QString infosText()
 {
     const QStringList lines{
-        u"Vorkan MAC 1.0"_s,
+        u"Vorkan MAC "_s + QStringLiteral(VORKAN_VERSION),
         u"© 2026 Les auteurs de Vorkan MAC"_s,
         QString(),
         u"Logiciel libre, distribué sous licence MIT"_s,

@@ -1,10 +1,16 @@
 #include "startup.h"
 
-#include "core/app.h"
-#include "menubars.h"
+#include "app.h"
+#include "menubar1.h"
 #include "window1.h"
 
 namespace vorkan {
+
+void startup(class App& app)
+{
+    newAppInstance(app);
+    makeDefaultView();
+}
 
 void newAppInstance(class App& app)
 {

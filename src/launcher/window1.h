@@ -1,7 +1,8 @@
 #pragma once
 
-#include "core/accessor.h"
-#include "core/window.h"
+#include "accessor.h"
+#include "controls.h"
+#include "window.h"
 
 namespace vorkan {
 
@@ -11,11 +12,19 @@ class Window1 : public Window {
 public:
     static constexpr QStringView FullName = u"Window1.Window1";
 
-    bool OptionsInfos_Action();
+    void BevelButton1_Action();
+    void BevelButton2_Action();
+    void BevelButton3_Action();
+    void BevelButton4_Action();
+    void BevelButton5_Action();
+    void BevelButton6_Action();
+    void BevelButton7_Action();
 
     QAction& OptionsMenu() const { return menuItem(u"OptionsMenu"); }
     QAction& OptionsInfos() const { return menuItem(u"OptionsInfos"); }
     QAction& FileQuit() const { return menuItem(u"FileQuit"); }
+
+    bool OptionsInfos_Action();
 
 protected:
     void Layout() override;
@@ -30,6 +39,8 @@ protected:
 private:
     friend class ImplicitWindows;
     Window1();
+
+    ControlRef<StaticText> sbdate{this, u"sbdate"};
 };
 
 VORKAN_ACCESSOR(Window1)

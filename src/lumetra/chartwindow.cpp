@@ -24,13 +24,18 @@ constexpr int wheelNotch = 120;
 constexpr double coarseStepPx = 10.0;
 constexpr double labelHeightMm = 4.0;
 
+// The keys and what they do; a narrow or magnified screen breaks the line between two
+// keys only, never inside one.
 QString chartHint(bool mirrored)
 {
-    const QString keys = u"↑ ↓ ligne plus grande ou plus petite · T tableau entier ou une ligne · "
-                         u"M miroir · L autres lettres · E étalonnage · H cacher l'aide · "
-                         u"Échap quitter"_s;
+    QString keys = u"↑ ↓ ligne plus grande ou plus petite · T tableau entier ou une ligne · "
+                   u"M miroir · L autres lettres · E étalonnage · H cacher l'aide · "
+                   u"Échap quitter"_s;
+    keys.replace(u' ', QChar::Nbsp).replace(u"\u00a0·\u00a0"_s, u" · "_s);
     return mirrored ? u"MIROIR — "_s + keys : keys;
 }
+
+constexpr int hintFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
 QFont labelFont(double pixelsPerMm)
 {
@@ -206,15 +211,21 @@ void ChartWindow::stateChanged()
     update();
 }
 
-double ChartWindow::hintBandHeight() const
+QRectF ChartWindow::hintBand() const
 {
-    return hintVisible_ ? 2.0 * fontMetrics().height() : 0.0;
+    if (!hintVisible_)
+        return {};
+    const int margin = fontMetrics().height();
+    const QRect text = fontMetrics().boundingRect(QRect(0, 0, width() - 2 * margin, height()),
+                                                  hintFlags, chartHint(state_.mirrored));
+    const double bandHeight = text.height() + margin;
+    return {0, height() - bandHeight, static_cast<double>(width()), bandHeight};
 }
 
 QSizeF ChartWindow::chartAreaPx() const
 {
     const double ratio = devicePixelRatioF();
-    return {width() * ratio, std::max(0.0, (height() - hintBandHeight()) * ratio)};
+    return {width() * ratio, std::max(0.0, (height() - hintBand().height()) * ratio)};
 }
 
 void ChartWindow::paintEvent(QPaintEvent*)
@@ -271,11 +282,10 @@ void ChartWindow::paintCard(QPainter& painter, QSizeF areaPx) const
 
 void ChartWindow::paintHint(QPainter& painter) const
 {
-    const QRectF band(0, height() - hintBandHeight(), width(), hintBandHeight());
-    const QString text = fontMetrics().elidedText(chartHint(state_.mirrored), Qt::ElideRight,
-                                                  width() - fontMetrics().height());
+    const double margin = fontMetrics().height();
     painter.setPen(Qt::black);
-    painter.drawText(band, Qt::AlignCenter, text);
+    painter.drawText(hintBand().adjusted(margin, 0, -margin, 0), hintFlags,
+                     chartHint(state_.mirrored));
 }
 
 void ChartWindow::paintInstructions(QPainter& painter) const

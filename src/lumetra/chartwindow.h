@@ -44,7 +44,8 @@ private:
     void stateChanged();
 
     QSizeF chartAreaPx() const;
-    double hintBandHeight() const;
+    // The strip at the bottom that shows the keys, as high as their lines need.
+    QRectF hintBand() const;
     void paintChart(QPainter& painter, QSizeF areaPx) const;
     void paintCard(QPainter& painter, QSizeF areaPx) const;
     void paintHint(QPainter& painter) const;

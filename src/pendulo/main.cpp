@@ -1,6 +1,7 @@
 #include "chronowindow.h"
 
 #include <QApplication>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +12,10 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(u"pendulo"_s);
     const pendulo::SteadyClock clock;
     pendulo::ChronoWindow window(clock);
+    // Centred on the main screen's free area, as the main program's windows open.
+    window.adjustSize();
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        window.move(screen->availableGeometry().center() - window.rect().center());
     window.show();
     return QApplication::exec();
 }

@@ -33,10 +33,10 @@ def opens_centred_and_ends_on_quit(session, binary):
     program = session.start(binary)
     main = session.wait_for_window("Vorkan MAC")
     settle()
-    x, y, width, height = session.geometry(main)
+    x, y = client_origin(session, main, MAIN_HEIGHT)
     screen = session.dpy.screen()
-    assert x == (screen.width_in_pixels - 445) // 2, f"main window at x={x}"
-    assert y == (screen.height_in_pixels - MAIN_HEIGHT) // 2, f"main window at y={y}"
+    assert x == (screen.width_in_pixels - 445) // 2, f"main window's client area at x={x}"
+    assert y == (screen.height_in_pixels - MAIN_HEIGHT) // 2, f"client area at y={y}"
 
     imc = open_imc(session, main)
     types_into_imc(session, imc)
