@@ -1,6 +1,6 @@
-"""The Windows build under Wine, on a private X display and in a private Wine prefix,
-with a French user locale: every QtTest suite, then the installer, the installed program
-and its two companions, and the removal.
+"""The Windows build under Wine, on a private X display and in a private Wine prefix:
+every QtTest suite, the system's French locale, then the installer, the installed
+program and its two companions, and the removal, for a French user.
 
 wine_checks.py BUILD MSI, with BUILD the Windows build folder."""
 
@@ -49,7 +49,7 @@ def run_suite(wine, exe, args, limit, results):
     log.unlink(missing_ok=True)
     started = time.monotonic()
     try:
-        status = wine.run(str(exe), *args, "-platform", "windows", "-o", f"{log.name},txt",
+        status = wine.run(str(exe), *args, "-o", f"{log.name},txt",
                           cwd=results, timeout=3 * limit).returncode
     except subprocess.TimeoutExpired:
         wine.stop()
@@ -78,9 +78,16 @@ def main(build, msi):
         started = time.monotonic()
         wine.boot()
         print(f"Wine prefix ready ({time.monotonic() - started:.0f} s)", flush=True)
-        for exe, args, limit in qttest_suites(build):
+        suites = qttest_suites(build)
+        for exe, args, limit in suites:
             if not run_suite(wine, exe, args, limit, results):
                 failed.append(exe.stem)
+        # The date and decimal mark of a French Windows, then the installer as a French
+        # user meets it.
+        wine.as_french_user()
+        launcher = next(exe for exe, _, _ in suites if exe.stem == "tst_launcher")
+        if not run_suite(wine, launcher, ["followsTheSystemsFrenchLocale"], 120, results):
+            failed.append("tst_launcher (French)")
         for case in installed.CASES:
             try:
                 case(wine, session, pathlib.Path(msi).resolve())
@@ -91,7 +98,7 @@ def main(build, msi):
     finally:
         wine.stop()
         session.close()
-    total = len(qttest_suites(build)) + len(installed.CASES)
+    total = len(qttest_suites(build)) + 1 + len(installed.CASES)
     print(f"{total - len(failed)} passed, {len(failed)} failed")
     return 1 if failed else 0
 

@@ -1,4 +1,4 @@
-"""A Wine prefix of the build's own, on the session's X display, for a French user."""
+"""A Wine prefix of the build's own, on the session's X display."""
 
 import os
 import pathlib
@@ -27,14 +27,24 @@ class Wine:
     def __init__(self, build, session):
         self.prefix = build / "wine"
         env = {k: v for k, v in session.env.items()
-               if not k.startswith("LC_") and k not in ("QT_QPA_PLATFORM", "LANGUAGE")}
+               if not k.startswith("LC_") and k != "LANGUAGE"}
         env.update(
             WINEPREFIX=str(self.prefix), WINEARCH="win64", WINEDEBUG="-all",
             # No .NET or HTML engine to install, no menu entries on this machine's desktop.
             WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d",
-            LANG="fr_FR.UTF-8", LOCPATH=str(french_locale(build / "locale")),
-            VORKAN_SYSTEM_LOCALE="fr_FR")
+            # The suites' own environment, as CTest gives it.
+            LANG="C.UTF-8",
+            # Windows' own platform plugin; as an option it would stop the suites that
+            # run without a display.
+            QT_QPA_PLATFORM="windows")
         self.env = env
+        self.locales = build / "locale"
+
+    def as_french_user(self):
+        """From now on, programs start for a user whose Windows locale is French."""
+        self.stop()
+        self.env.update(LANG="fr_FR.UTF-8", LOCPATH=str(french_locale(self.locales)),
+                        VORKAN_SYSTEM_LOCALE="fr_FR")
 
     def drive_c(self):
         return self.prefix / "drive_c"
