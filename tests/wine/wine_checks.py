@@ -50,7 +50,11 @@ def run_suite(wine, exe, args, limit, results):
     started = time.monotonic()
     try:
         status = wine.run(str(exe), *args, "-o", f"{log.name},txt",
-                          cwd=results, timeout=3 * limit).returncode
+                          cwd=results, timeout=3 * limit,
+                          # QtTest's own limit of 5 minutes a function is too short for
+                          # the long random session under Wine.
+                          extra_env={"QTEST_FUNCTION_TIMEOUT": str(3 * limit * 1000)}
+                          ).returncode
     except subprocess.TimeoutExpired:
         wine.stop()
         status = "timed out"

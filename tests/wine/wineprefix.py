@@ -55,8 +55,9 @@ class Wine:
         self.run("winecfg", "-v", "win10", timeout=120)
         subprocess.run(["wineserver", "-w"], env=self.env, timeout=300, check=True)
 
-    def run(self, *args, timeout, cwd=None):
-        return subprocess.run(["wine", *args], env=self.env, cwd=cwd, timeout=timeout,
+    def run(self, *args, timeout, cwd=None, extra_env=None):
+        env = dict(self.env, **(extra_env or {}))
+        return subprocess.run(["wine", *args], env=env, cwd=cwd, timeout=timeout,
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def start(self, *args):
