@@ -1,10 +1,38 @@
 #include "support.h"
 
-#include <QApplication>
+#include "calculators/cleinsee.h"
+#include "calculators/imc.h"
+#include "calculators/norton.h"
+#include "calculators/pideal.h"
+#include "calculators/surf.h"
+#include "core/controls.h"
+#include "launcher/window1.h"
+
 #include <QLocale>
 #include <QWheelEvent>
 
+#include <stdexcept>
+
 namespace vorkan::test {
+
+Window& open(Win window)
+{
+    switch (window) {
+    case Win::main:
+        return Window1();
+    case Win::imc:
+        return imc();
+    case Win::surf:
+        return surf();
+    case Win::pideal:
+        return pideal();
+    case Win::norton:
+        return norton();
+    case Win::cleinsee:
+        return cleinsee();
+    }
+    throw std::invalid_argument("no such window");
+}
 
 void closeAllWindows()
 {
@@ -41,6 +69,18 @@ void useLocale(QLocale::Language language)
 {
     QLocale::setDefault(
         QLocale(language, language == QLocale::French ? QLocale::France : QLocale::AnyTerritory));
+}
+
+QString shown(const Window& window, const QString& names)
+{
+    QStringList texts;
+    for (const QString& name : names.split(u' ')) {
+        if (auto* field = dynamic_cast<TextField*>(&window.control<QWidget>(name)))
+            texts << field->text();
+        else
+            texts << window.control<StaticText>(name).text();
+    }
+    return texts.join(u' ');
 }
 
 } // namespace vorkan::test

@@ -8,6 +8,12 @@
 
 namespace vorkan::test {
 
+// The windows a table row can name.
+enum class Win { main, imc, surf, pideal, norton, cleinsee };
+
+// That window's one instance, built if it is not open.
+Window& open(Win window);
+
 // Closes every window and lets Qt delete them, so that each test starts from nothing.
 void closeAllWindows();
 
@@ -20,10 +26,16 @@ void typeInto(QWidget& field, const QString& text);
 // One notch of the wheel over a control; a positive delta turns it away from the user.
 void wheel(QWidget& widget, int angleDeltaY, int angleDeltaX = 0);
 
-// Pins the locale whose decimal mark the texts use for the rest of the test.
+// Pins the locale whose decimal mark the texts use, until the next call.
 void useLocale(QLocale::Language language);
 
+// The texts of the fields and labels named, separated by blanks; a name that is no
+// field or label throws.
+QString shown(const Window& window, const QString& names);
+
 } // namespace vorkan::test
+
+Q_DECLARE_METATYPE(vorkan::test::Win)
 
 // A test executable whose application object is the program's own.
 #define VORKAN_TEST_MAIN(TestClass)                                                                \
