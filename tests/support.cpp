@@ -1,37 +1,18 @@
 #include "support.h"
 
-#include "calculators/cleinsee.h"
-#include "calculators/imc.h"
-#include "calculators/norton.h"
-#include "calculators/pideal.h"
-#include "calculators/surf.h"
-#include "core/controls.h"
-#include "launcher/window1.h"
-
-#include <QLocale>
 #include <QWheelEvent>
 
-#include <stdexcept>
+#include <array>
 
 namespace vorkan::test {
 
 Window& open(Win window)
 {
-    switch (window) {
-    case Win::main:
-        return Window1();
-    case Win::imc:
-        return imc();
-    case Win::surf:
-        return surf();
-    case Win::pideal:
-        return pideal();
-    case Win::norton:
-        return norton();
-    case Win::cleinsee:
-        return cleinsee();
-    }
-    throw std::invalid_argument("no such window");
+    static const std::array<Window& (*)(), 6> openers{
+        []() -> Window& { return Window1(); }, []() -> Window& { return imc(); },
+        []() -> Window& { return surf(); },    []() -> Window& { return pideal(); },
+        []() -> Window& { return norton(); },  []() -> Window& { return cleinsee(); }};
+    return openers.at(size_t(window))();
 }
 
 void closeAllWindows()
@@ -39,14 +20,6 @@ void closeAllWindows()
     QApplication::closeAllWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-}
-
-void resetRecord()
-{
-    App().poids = 0;
-    App().taille = 0;
-    App().age = 0;
-    App().sexe = true;
 }
 
 void typeInto(QWidget& field, const QString& text)
@@ -67,20 +40,28 @@ void wheel(QWidget& widget, int angleDeltaY, int angleDeltaX)
 
 void useLocale(QLocale::Language language)
 {
-    QLocale::setDefault(
-        QLocale(language, language == QLocale::French ? QLocale::France : QLocale::AnyTerritory));
+    QLocale::setDefault(QLocale(language));
 }
 
 QString shown(const Window& window, const QString& names)
 {
     QStringList texts;
     for (const QString& name : names.split(u' ')) {
-        if (auto* field = dynamic_cast<TextField*>(&window.control<QWidget>(name)))
-            texts << field->text();
-        else
-            texts << window.control<StaticText>(name).text();
+        const auto* field = dynamic_cast<TextField*>(&window.control<QWidget>(name));
+        texts << (field ? field->text() : window.control<StaticText>(name).text());
     }
     return texts.join(u' ');
+}
+
+void WindowTest::init()
+{
+    App().poids = App().taille = 0;
+}
+
+void WindowTest::cleanup()
+{
+    closeAllWindows();
+    useLocale(QLocale::C);
 }
 
 } // namespace vorkan::test

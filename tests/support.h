@@ -1,10 +1,28 @@
+// What every window test needs: the program's windows and controls, and a user's
+// gestures on them.
 #pragma once
 
+#include "calculators/cleinsee.h"
+#include "calculators/imc.h"
+#include "calculators/norton.h"
+#include "calculators/pideal.h"
+#include "calculators/surf.h"
 #include "core/app.h"
-#include "core/window.h"
+#include "core/controls.h"
+#include "core/platform.h"
+#include "core/textops.h"
+#include "core/updownarrows.h"
 #include "launcher/startup.h"
+#include "launcher/window1.h"
 
+#include <QClipboard>
+#include <QMenu>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace vorkan;
 
 namespace vorkan::test {
 
@@ -16,9 +34,6 @@ Window& open(Win window);
 
 // Closes every window and lets Qt delete them, so that each test starts from nothing.
 void closeAllWindows();
-
-// Empties the patient record as it is at start.
-void resetRecord();
 
 // Replaces the text of a field by typing, as a user who selects all and types does.
 void typeInto(QWidget& field, const QString& text);
@@ -33,7 +48,19 @@ void useLocale(QLocale::Language language);
 // field or label throws.
 QString shown(const Window& window, const QString& names);
 
+// A test of the program's windows: each test starts with no window open, an empty
+// patient record and the C locale.
+class WindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+};
+
 } // namespace vorkan::test
+
+using namespace vorkan::test;
 
 Q_DECLARE_METATYPE(vorkan::test::Win)
 
