@@ -26,7 +26,7 @@ programs=(vorkan-mac.exe lumetra.app.exe pendulo.app.exe)
 mapfile -t shipped < <(scripts/windows/deploy.sh "$qt" "$build/src" "${programs[@]}")
 printf '  %s\n' "${shipped[@]}"
 # Qt's setup gathers the test programs of a Windows build in its top folder.
-(cd "$build" && "$repo/scripts/windows/deploy.sh" "$qt" . tst_*.exe launchprobe.exe >/dev/null)
+(cd "$build" && "$repo/scripts/windows/deploy.sh" "$qt" . tst_*.exe >/dev/null)
 
 step "Installer"
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")

@@ -1,24 +1,25 @@
 #include "support.h"
 
-#include <QApplication>
-#include <QLocale>
 #include <QWheelEvent>
 
+#include <array>
+
 namespace vorkan::test {
+
+Window& open(Win window)
+{
+    static const std::array<Window& (*)(), 6> openers{
+        []() -> Window& { return Window1(); }, []() -> Window& { return imc(); },
+        []() -> Window& { return surf(); },    []() -> Window& { return pideal(); },
+        []() -> Window& { return norton(); },  []() -> Window& { return cleinsee(); }};
+    return openers.at(size_t(window))();
+}
 
 void closeAllWindows()
 {
     QApplication::closeAllWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-}
-
-void resetRecord()
-{
-    App().poids = 0;
-    App().taille = 0;
-    App().age = 0;
-    App().sexe = true;
 }
 
 void typeInto(QWidget& field, const QString& text)
@@ -39,8 +40,28 @@ void wheel(QWidget& widget, int angleDeltaY, int angleDeltaX)
 
 void useLocale(QLocale::Language language)
 {
-    QLocale::setDefault(
-        QLocale(language, language == QLocale::French ? QLocale::France : QLocale::AnyTerritory));
+    QLocale::setDefault(QLocale(language));
+}
+
+QString shown(const Window& window, const QString& names)
+{
+    QStringList texts;
+    for (const QString& name : names.split(u' ')) {
+        const auto* field = dynamic_cast<TextField*>(&window.control<QWidget>(name));
+        texts << (field ? field->text() : window.control<StaticText>(name).text());
+    }
+    return texts.join(u' ');
+}
+
+void WindowTest::init()
+{
+    App().poids = App().taille = 0;
+}
+
+void WindowTest::cleanup()
+{
+    closeAllWindows();
+    useLocale(QLocale::C);
 }
 
 } // namespace vorkan::test

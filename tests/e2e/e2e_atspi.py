@@ -1,12 +1,7 @@
-"""A screen reader's view of the real program: under Xvfb and a private D-Bus session,
-the IMC result is read through the AT-SPI bus after typing a height, under a French and
-a C locale: the decimal mark and the date follow the locale.
-
-Run inside its own session bus: dbus-run-session -- python3 e2e_atspi.py BINARY
-"""
+"""What a screen reader reads of the real program through AT-SPI, under the locale of the
+environment. Run as: dbus-run-session -- python3 e2e_atspi.py BINARY"""
 
 import os
-import re
 import subprocess
 import sys
 import time
@@ -21,17 +16,29 @@ def poll(what, find, timeout=20):
             found = find()
         except Exception:  # the tree changes while we walk it
             found = None
-        if found is not None:
+        if found:
             return found
         time.sleep(0.1)
     raise AssertionError(f"{what} never appeared on the accessibility bus")
 
 
-LOCALES = [
-    # LANG, index at 170 cm and 70 kg, index at 180 cm, the date's short form
-    ("fr_FR.UTF-8", "24,2", "21,6", r"^\d\d/\d\d/\d{4}$"),
-    ("C", "24.2", "21.6", r"^\d{1,2} \w{3} \d{4}$"),
-]
+def reads(session, pyatspi, binary, lang, index, after):
+    session.start(binary, env=dict(session.env, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                                   QT_ACCESSIBILITY="1", LANG=lang, LC_ALL=lang))
+
+    def named(root, name):
+        return pyatspi.findDescendant(root, lambda node: node is not None and node.name == name)
+
+    def frame(title):
+        return next(w for app in pyatspi.Registry.getDesktop(0) if app for w in app
+                    if w and w.name == title)
+
+    poll("the IMC button", lambda: named(frame("Vorkan MAC"), "IMC")).queryAction().doAction(0)
+    text = lambda name: named(frame("IMC"), name).queryText().getText(0, -1)  # noqa: E731
+    assert poll("the index", lambda: text("IMC (kg/m²)")) == index, f"{lang}: {index} expected"
+    session.keys(session.wait_for_window("IMC"), "ctrl+a", "1", "8", "0")
+    poll(f"{lang}: the index {after}", lambda: text("IMC (kg/m²)") == after, timeout=10)
+    assert text("Taille (cm)") == "180", f"the height reads {text('Taille (cm)')!r}"
 
 
 def main(binary):
@@ -43,59 +50,14 @@ def main(binary):
         time.sleep(0.5)
         import pyatspi  # after the display and bus exist: it finds the bus through them
 
-        for lang, before, after, date in LOCALES:
-            run(session, pyatspi, binary, lang, before, after, date)
+        for locale in [("fr_FR.UTF-8", "24,2", "21,6"), ("C", "24.2", "21.6")]:
+            reads(session, pyatspi, binary, *locale)
+            session.close_programs()
     finally:
         bus.terminate()
         bus.wait()
         session.close()
-    print(f"e2e_atspi: {len(LOCALES)} passed, 0 failed")
-
-
-def run(session, pyatspi, binary, lang, before, after, date):
-    env = dict(session.env, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1",
-               LANG=lang, LC_ALL=lang)
-    program = subprocess.Popen([binary], env=env)
-    try:
-        session.wait_for_window("Vorkan MAC")
-        desktop = pyatspi.Registry.getDesktop(0)
-
-        def frame(title):
-            for app in desktop:
-                if app is None:
-                    continue
-                for window in app:
-                    if window is not None and window.name == title:
-                        return window
-            return None
-
-        def named(root, name):
-            return pyatspi.findDescendant(root, lambda node: node is not None and node.name == name)
-
-        main_window = poll("the main window", lambda: frame("Vorkan MAC"))
-        poll(f"{lang}: the date", lambda: pyatspi.findDescendant(
-            main_window, lambda node: node is not None and re.match(date, node.name or "")))
-        imc_button = poll("the IMC button", lambda: named(main_window, "IMC"))
-        imc_button.queryAction().doAction(0)
-        imc = poll("the IMC window", lambda: frame("IMC"))
-
-        def index():
-            return named(imc, "IMC (kg/m²)").queryText().getText(0, -1)
-
-        assert poll("the index", index) == before, f"{lang}: the index reads {index()!r}"
-
-        window = session.wait_for_window("IMC")
-        session.xdotool("windowfocus", "--sync", str(window))
-        session.xdotool("key", "ctrl+a")
-        session.xdotool("type", "--delay", "30", "180")
-        poll(f"{lang}: the index {after}", lambda: index() if index() == after else None,
-             timeout=10)
-        height = named(imc, "Taille (cm)").queryText().getText(0, -1)
-        assert height == "180", f"the height reads {height!r}"
-    finally:
-        program.kill()
-        program.wait()
-        time.sleep(0.5)
+    print("e2e_atspi: 2 passed, 0 failed")
 
 
 if __name__ == "__main__":

@@ -1,97 +1,109 @@
-"""The real program under Xvfb, driven as a user does with the mouse and keyboard."""
+"""The real program and the companions its buttons start, under Xvfb, driven with the
+mouse and keyboard: windows, clipboard, keys and ends as the user sees them."""
 
+import subprocess
 import sys
+import tempfile
 import time
 
-from xsession import XSession, run_cases
+from xsession import XSession, settle
 
-MAIN_HEIGHT = 202  # the main window's client area, below its menu bar
-IMC_HEIGHT = 313
-
-
-def settle():
-    time.sleep(0.4)
+MAIN_HEIGHT, IMC_HEIGHT, CLEINSEE_HEIGHT = 202, 313, 117  # client areas, below the menus
 
 
-def client_origin(session, window, client_height):
-    x, y, _, height = session.geometry(window)
-    return x, y + height - client_height
-
-
-def click(session, window, client_height, at):
-    x, y = client_origin(session, window, client_height)
-    session.xdotool("mousemove", "--sync", str(x + at[0]), str(y + at[1]), "click", "1")
-    settle()
-
-
-def open_imc(session, main):
-    click(session, main, MAIN_HEIGHT, (13 + 63, 35 + 15))  # "IMC"
-    return session.wait_for_window("IMC")
-
-
-def opens_centred_and_ends_on_quit(session, binary):
-    program = session.start(binary)
+def open_from_main(session, button_at, title):
     main = session.wait_for_window("Vorkan MAC")
     settle()
-    x, y = client_origin(session, main, MAIN_HEIGHT)
-    screen = session.dpy.screen()
-    assert x == (screen.width_in_pixels - 445) // 2, f"main window's client area at x={x}"
-    assert y == (screen.height_in_pixels - MAIN_HEIGHT) // 2, f"client area at y={y}"
-
-    imc = open_imc(session, main)
-    types_into_imc(session, imc)
-    open_imc(session, main)
-    assert len(session.windows_named("IMC")) == 1, "a second click opened a second IMC window"
-
-    session.xdotool("windowfocus", "--sync", str(imc))
-    session.xdotool("key", "ctrl+q")
-    status = program.wait(timeout=10)
-    assert status == 0, f"Ctrl+Q ended the program with status {status}"
+    session.xdotool("windowraise", str(main))  # what it opens may cover it
+    session.click(main, MAIN_HEIGHT, button_at)
+    return session.wait_for_window(title)
 
 
-def types_into_imc(session, imc):
-    x, y = client_origin(session, imc, IMC_HEIGHT)
-    index_area = (x + 264, y + 12, 75, 25)
-    before = session.pixels(*index_area)
-    session.xdotool("windowfocus", "--sync", str(imc))
-    session.xdotool("key", "ctrl+a")
-    session.xdotool("type", "--delay", "30", "150")
-    session.xdotool("key", "Tab", "ctrl+a")
-    session.xdotool("type", "--delay", "30", "90")
-    settle()
-    assert session.pixels(*index_area) != before, "typed digits did not change the index"
-    session.xdotool("key", "ctrl+a")
-    session.xdotool("type", "--delay", "30", "70")
-    session.xdotool("key", "shift+Tab", "ctrl+a")
-    session.xdotool("type", "--delay", "30", "170")
-    settle()
-    assert session.pixels(*index_area) == before, "typing the defaults back did not restore them"
-
-
-def lives_on_until_the_last_window_closes(session, binary):
-    program = session.start(binary)
+def opens_centred_calculates_and_ends_on_quit(session, program):
+    centred = ((1280 - 445) // 2, (800 - MAIN_HEIGHT) // 2)  # on the session's screen
+    imc = open_from_main(session, (76, 50), "IMC")
     main = session.wait_for_window("Vorkan MAC")
-    settle()
-    imc = open_imc(session, main)
-    session.close_window(main)
+    assert session.client_origin(main, MAIN_HEIGHT) == centred, "the main window is not centred"
+    x, y = session.client_origin(imc, IMC_HEIGHT)
+    before = session.pixels(x + 264, y + 12, 75, 25)
+    session.keys(imc, "ctrl+a", "1", "5", "0")
+    assert session.pixels(x + 264, y + 12, 75, 25) != before, "typing did not change the index"
+    session.keys(imc, "ctrl+q")
+    assert program.wait(timeout=10) == 0, "Ctrl+Q did not end the program cleanly"
+
+
+def copies_for_other_programs(session, program):
+    cle = open_from_main(session, (223, 50), "Cle insee")
+    session.click(cle, CLEINSEE_HEIGHT, (80, 47))
+    session.keys(cle, *"1234567890123", "Return")
+    session.click(cle, CLEINSEE_HEIGHT, (120, 83))  # "Copier"
+    copied = subprocess.run(["xclip", "-o", "-selection", "clipboard"], env=session.env,
+                            capture_output=True, text=True, timeout=10).stdout
+    assert copied == "1234567890123 11", f"the clipboard holds {copied!r}"
+
+
+def lives_on_until_the_last_window_closes(session, program):
+    imc = open_from_main(session, (76, 50), "IMC")
+    session.close_window(session.wait_for_window("Vorkan MAC"))
     settle()
     assert program.poll() is None, "closing the main window ended the program"
-    assert session.windows_named("IMC") == [imc]
     session.close_window(imc)
-    status = program.wait(timeout=10)
-    assert status == 0, f"closing the last window ended the program with status {status}"
+    assert program.wait(timeout=10) == 0, "the last window closed, the program did not end"
 
 
-def main(binary):
-    def in_own_session(case):
-        session = XSession()
-        try:
-            case(session, binary)
-        finally:
-            session.close()
+def started_companion(session, button_at, title):
+    window = open_from_main(session, button_at, title)
+    session.companions.append(int(session.xdotool("getwindowpid", str(window))))
+    settle()
+    return window
 
-    cases = [opens_centred_and_ends_on_quit, lives_on_until_the_last_window_closes]
-    return run_cases(cases, in_own_session)
+
+def chart_covers_the_screen_and_escape_quits(session, program):
+    chart = started_companion(session, (370, 50), "Échelle visuelle 3 m")
+    assert session.geometry(chart)[2:] == (1280, 800), "the chart does not cover the screen"
+    session.keys(chart, "Return")  # the first run measures the screen: accept the guess
+    session.keys(chart, "Escape")
+    for _ in range(100):
+        state = subprocess.run(["ps", "-o", "stat=", "-p", str(session.companions[-1])],
+                               capture_output=True, text=True).stdout
+        if not state.strip() or state.startswith("Z"):
+            return
+        time.sleep(0.1)
+    raise AssertionError("Escape did not end lumetra.app")
+
+
+def stopwatch_runs_on_the_space_bar(session, program):
+    watch = started_companion(session, (370, 93), "Chrono")
+    digits = session.geometry(watch)[:3] + (100,)
+    before = session.pixels(*digits)
+    session.keys(watch, "space")
+    time.sleep(0.6)
+    assert session.pixels(*digits) != before, "the digits did not move after the space bar"
+
+
+COMPANIONS = [chart_covers_the_screen_and_escape_quits, stopwatch_runs_on_the_space_bar]
+
+
+def main(binary, cases=(opens_centred_calculates_and_ends_on_quit, copies_for_other_programs,
+                        lives_on_until_the_last_window_closes, *COMPANIONS)):
+    failed = 0
+    with tempfile.TemporaryDirectory() as config:
+        for case in cases:
+            session = XSession()
+            session.env["XDG_CONFIG_HOME"] = config  # lumetra keeps its calibration there
+            session.companions = []  # started detached, they are not the session's children
+            try:
+                case(session, session.start(binary))
+                print(f"PASS {case.__name__}")
+            except AssertionError as error:
+                failed += 1
+                print(f"FAIL {case.__name__}: {error}")
+            finally:
+                for pid in session.companions:
+                    subprocess.run(["kill", str(pid)], stderr=subprocess.DEVNULL)
+                session.close()
+    print(f"{len(cases) - failed} passed, {failed} failed")
+    return 1 if failed else 0
 
 
 if __name__ == "__main__":

@@ -8,7 +8,6 @@ from Xlib import X, display, protocol
 
 
 class XSession:
-    """Starts Xvfb on a free display and offers the few things the tests need."""
 
     def __init__(self, width=1280, height=800):
         read_fd, write_fd = os.pipe()
@@ -25,88 +24,67 @@ class XSession:
         self.root = self.dpy.screen().root
         self.programs = []
 
-    def start(self, binary, *args):
-        program = subprocess.Popen([binary, *args], env=self.env)
+    def start(self, binary, *args, env=None):
+        program = subprocess.Popen([binary, *args], env=env or self.env)
         self.programs.append(program)
         return program
 
-    def close(self):
+    def close_programs(self):
         for program in self.programs:
             if program.poll() is None:
                 program.kill()
                 program.wait()
+        time.sleep(0.5)
+
+    def close(self):
+        self.close_programs()
         self.dpy.close()
         self.xvfb.terminate()
         self.xvfb.wait()
 
-    def tool_env(self):
-        """The display's environment in a locale every machine has, for the X tools."""
-        return dict(self.env, LANG="C.UTF-8", LC_ALL="C.UTF-8")
-
-    def xdotool(self, *args):
-        return subprocess.run(["xdotool", *args], env=self.tool_env(), check=True,
-                              capture_output=True, text=True).stdout
-
-    def title(self, window):
-        """The window's title as the program set it (UTF-8), whatever the locale."""
-        prop = window.get_full_property(self.dpy.intern_atom("_NET_WM_NAME"), X.AnyPropertyType)
-        if prop is None:
-            return window.get_wm_name()
-        value = prop.value
-        return value.decode("utf-8") if isinstance(value, bytes) else value
-
-    def windows_named(self, title):
-        """The mapped top-level windows with that exact title, oldest first."""
-        found = []
-        for child in self.root.query_tree().children:
-            try:
-                if (child.get_attributes().map_state == X.IsViewable
-                        and self.title(child) == title):
-                    found.append(child.id)
-            except Exception:  # a window that went away while we looked
-                continue
-        return found
+    def xdotool(self, *args, timeout=None):
+        return subprocess.run(["xdotool", *args], env=dict(self.env, LC_ALL="C.UTF-8"),
+                              check=True, capture_output=True, text=True, timeout=timeout).stdout
 
     def wait_for_window(self, title, timeout=20):
-        deadline = time.monotonic() + timeout
-        while time.monotonic() < deadline:
-            found = self.windows_named(title)
-            if found:
-                return found[0]
-            time.sleep(0.05)
-        raise AssertionError(f"no window titled {title!r} was mapped")
+        try:
+            found = self.xdotool("search", "--sync", "--onlyvisible", "--name", f"^{title}$",
+                                 timeout=timeout)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"no window titled {title!r} was mapped") from None
+        return int(found.split()[0])
 
     def geometry(self, window):
-        win = self.dpy.create_resource_object("window", window)
-        geo = win.get_geometry()
-        at = win.translate_coords(self.root, 0, 0)
-        return -at.x, -at.y, geo.width, geo.height
+        shell = dict(line.split("=") for line in self.xdotool("getwindowgeometry", "--shell",
+                                                                str(window)).split())
+        return tuple(int(shell[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def client_origin(self, window, client_height):
+        x, y, _, height = self.geometry(window)
+        return x, y + height - client_height
+
+    def click(self, window, client_height, at):
+        x, y = self.client_origin(window, client_height)
+        self.xdotool("mousemove", "--sync", str(x + at[0]), str(y + at[1]), "click", "1")
+        settle()
+
+    def keys(self, window, *keys):
+        self.xdotool("windowfocus", "--sync", str(window))
+        self.xdotool("key", "--delay", "50", *keys)
+        settle()
 
     def pixels(self, x, y, width, height):
-        image = self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF)
-        return image.data
+        return self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data
 
     def close_window(self, window):
-        """Asks the window to close as a window manager does (WM_DELETE_WINDOW)."""
+        # As a window manager does.
         win = self.dpy.create_resource_object("window", window)
-        protocols = self.dpy.intern_atom("WM_PROTOCOLS")
         delete = self.dpy.intern_atom("WM_DELETE_WINDOW")
-        event = protocol.event.ClientMessage(window=win, client_type=protocols,
-                                             data=(32, [delete, X.CurrentTime, 0, 0, 0]))
-        win.send_event(event)
+        win.send_event(protocol.event.ClientMessage(
+            window=win, client_type=self.dpy.intern_atom("WM_PROTOCOLS"),
+            data=(32, [delete, X.CurrentTime, 0, 0, 0])))
         self.dpy.flush()
 
 
-def run_cases(cases, run_one):
-    """Runs each case through run_one, prints a line for each and the totals; returns the
-    exit status of the whole run."""
-    failed = 0
-    for case in cases:
-        try:
-            run_one(case)
-            print(f"PASS {case.__name__}")
-        except AssertionError as error:
-            failed += 1
-            print(f"FAIL {case.__name__}: {error}")
-    print(f"{len(cases) - failed} passed, {failed} failed")
-    return 1 if failed else 0
+def settle():
+    time.sleep(0.4)
