@@ -2,6 +2,8 @@
 its Start-menu shortcut, its two companions started from its buttons, then removed. The
 cases run in this order, each on what the one before left."""
 
+import getpass
+import subprocess
 import time
 
 from wineprefix import windows_path
@@ -15,8 +17,13 @@ def program_folder(wine):
 
 
 def shortcut(wine):
-    return (wine.drive_c() / "ProgramData" / "Microsoft" / "Windows" / "Start Menu"
-            / "Programs" / "Vorkan MAC.lnk")
+    """The Start-menu shortcut: everyone's on Windows; Wine's installer puts an
+    all-users package's shortcuts in the installing user's menu."""
+    menus = [wine.drive_c() / "ProgramData", wine.drive_c() / "users" / getpass.getuser()
+             / "AppData" / "Roaming"]
+    found = [menu / "Microsoft" / "Windows" / "Start Menu" / "Programs" / "Vorkan MAC.lnk"
+             for menu in menus]
+    return next((path for path in found if path.is_file()), found[0])
 
 
 def msiexec(wine, action, msi):
@@ -24,10 +31,11 @@ def msiexec(wine, action, msi):
     assert status == 0, f"msiexec {action} ended with status {status}"
 
 
-def click_button(session, main, left, top):
-    x, y, _, height = session.geometry(main)
-    y += height - MAIN_HEIGHT
-    session.xdotool("mousemove", "--sync", str(x + left + 63), str(y + top + 15), "click", "1")
+def opens_no_console(program):
+    """Whether the program's header names the Windows GUI subsystem, not the console."""
+    header = program.read_bytes()[:4096]
+    pe = int.from_bytes(header[0x3C:0x40], "little")
+    return int.from_bytes(header[pe + 0x5C:pe + 0x5E], "little") == 2
 
 
 def installs_into_program_files_with_a_shortcut(wine, session, msi):
@@ -35,6 +43,8 @@ def installs_into_program_files_with_a_shortcut(wine, session, msi):
     for name in ("vorkan-mac.exe", "lumetra.app.exe", "pendulo.app.exe",
                  "platforms/qwindows.dll"):
         assert (program_folder(wine) / name).is_file(), f"{name} is not installed"
+        assert not name.endswith(".exe") or opens_no_console(program_folder(wine) / name), \
+            f"{name} opens a console beside its window"
     assert shortcut(wine).is_file(), "no shortcut in the Start menu"
 
 
@@ -43,7 +53,7 @@ def shortcut_starts_the_program_and_its_companions(wine, session, msi):
     main = session.wait_for_window("Vorkan MAC", timeout=60)
     time.sleep(1)
     for (left, top), title in COMPANIONS:
-        click_button(session, main, left, top)
+        session.click(main, MAIN_HEIGHT, (left + 63, top + 15))
         companion = session.wait_for_window(title, timeout=60)
         # The chart fills the screen: it goes before the next button is clicked.
         session.close_window(companion)
@@ -52,7 +62,11 @@ def shortcut_starts_the_program_and_its_companions(wine, session, msi):
 
 def wait_until_gone(session, title, timeout=30):
     deadline = time.monotonic() + timeout
-    while session.windows_named(title):
+    while True:
+        try:
+            session.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+        except subprocess.CalledProcessError:
+            return  # xdotool finds no such window
         assert time.monotonic() < deadline, f"the window {title!r} did not close"
         time.sleep(0.1)
 
