@@ -1,7 +1,5 @@
 """A Wine prefix of the build's own, on the session's X display."""
 
-import os
-import pathlib
 import subprocess
 
 
