@@ -5,6 +5,7 @@ program and its two companions, and the removal, for a French user.
 wine_checks.py BUILD MSI, with BUILD the Windows build folder."""
 
 import pathlib
+import re
 import subprocess
 import sys
 import time
@@ -58,7 +59,9 @@ def main(build, msi):
     failed = []
     try:
         wine.boot()
-        suites = sorted(build.glob("tst_*.exe"))
+        # The suites CTest lists: a suite since removed may have left its program behind.
+        listed = subprocess.run(["ctest", "-N"], cwd=build, capture_output=True, text=True).stdout
+        suites = [build / f"{name}.exe" for name in re.findall(r"#\d+: (tst_\w+)", listed)]
         failed += [exe.stem for exe in suites if not run_suite(wine, exe, [], results)]
         # The date and decimal mark of a French Windows, then the installer as a French
         # user meets it.
