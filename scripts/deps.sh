@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building needs and, with "package", what making the
-# Debian package needs too, or with "test", everything the tests need; only those that
-# are missing. Uses sudo only when not root.
+# Debian package needs too, with "test", everything the tests need, or with "windows",
+# that and the Windows build and its tests under Wine; only those that are missing.
+# Uses sudo only when not root.
 set -euo pipefail
 
 packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
@@ -9,9 +10,13 @@ packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dej
 packaging=(dpkg-dev file)
 case "${1:-}" in
 package) packages+=("${packaging[@]}") ;;
-test)
+test | windows)
     packages+=("${packaging[@]}" xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils
         appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
+    ;;&
+windows)
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin
+        icoutils locales)
     ;;
 esac
 

@@ -38,11 +38,6 @@ void wheel(QWidget& widget, int angleDeltaY, int angleDeltaX)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
-void useLocale(QLocale::Language language)
-{
-    QLocale::setDefault(QLocale(language));
-}
-
 QString shown(const Window& window, const QString& names)
 {
     QStringList texts;
@@ -61,7 +56,7 @@ void WindowTest::init()
 void WindowTest::cleanup()
 {
     closeAllWindows();
-    useLocale(QLocale::C);
+    QLocale::setDefault(QLocale::C);
 }
 
 } // namespace vorkan::test

@@ -2,17 +2,17 @@
 // gestures on them.
 #pragma once
 
+#include "app.h"
 #include "cleinsee.h"
+#include "controls.h"
 #include "imc.h"
 #include "norton.h"
 #include "pideal.h"
-#include "surf.h"
-#include "app.h"
-#include "controls.h"
 #include "platform.h"
+#include "startup.h"
+#include "surf.h"
 #include "textops.h"
 #include "updownarrows.h"
-#include "startup.h"
 #include "window1.h"
 
 #include <QClipboard>
@@ -40,9 +40,6 @@ void typeInto(QWidget& field, const QString& text);
 
 // One notch of the wheel over a control; a positive delta turns it away from the user.
 void wheel(QWidget& widget, int angleDeltaY, int angleDeltaX = 0);
-
-// Pins the locale whose decimal mark the texts use, until the next call.
-void useLocale(QLocale::Language language);
 
 // The texts of the fields and labels named, separated by blanks; a name that is no
 // field or label throws.

@@ -73,7 +73,7 @@ private Q_SLOTS:
     // Were "18,5" read back as 18, the class would be "maigreur".
     void readsBackWhatItShowsUnderAFrenchLocale()
     {
-        useLocale(QLocale::French);
+        QLocale::setDefault(QLocale::French);
         typeInto(field(imc(), u"taille"_s), u"180"_s);
         typeInto(field(imc(), u"poids"_s), u"60"_s);
         QCOMPARE(shown(imc(), u"imct imclab poidsidealh"_s), u"18,5 corpulence normale 73,7"_s);

@@ -151,7 +151,7 @@ class TestSession : public QObject {
             window->menuItem(u"FileQuit").trigger();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(openWindows().isEmpty());
-        useLocale(pick(2) ? QLocale::French : QLocale::C);
+        QLocale::setDefault(pick(2) ? QLocale::French : QLocale::C);
         Window1();
     }
 
@@ -196,7 +196,7 @@ private Q_SLOTS:
             &TestSession::turnTheWheel,       &TestSession::click,          &TestSession::useAMenu,
             &TestSession::quitAndStartAgain};
         std::discrete_distribution<int> often{8, 4, 40, 16, 16, 5, 1};
-        useLocale(pick(2) ? QLocale::French : QLocale::C);
+        QLocale::setDefault(pick(2) ? QLocale::French : QLocale::C);
         Window1();
         for (quint64 step = 0; step < actions; ++step) {
             const QList<Window*> before = openWindows();

@@ -105,9 +105,24 @@ QString shortDate()
     return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
 }
 
+namespace {
+
+// Windows runs only files named as programs, and names each companion so.
+QString programFileName(const QString& name)
+{
+#ifdef Q_OS_WIN
+    return name + u".exe"_s;
+#else
+    return name;
+#endif
+}
+
+} // namespace
+
 bool launchBesideProgram(const QString& name)
 {
-    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(name);
+    const QString path =
+        QDir(QCoreApplication::applicationDirPath()).filePath(programFileName(name));
     const QFileInfo file(path);
     bool started = false;
     if (file.isFile() && file.isExecutable())

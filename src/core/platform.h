@@ -45,7 +45,7 @@ QRect availableScreenArea();
 QString shortDate();
 
 // Starts a program found beside this one, detached, without a shell; false when it
-// is missing or does not start.
+// is missing or does not start. On Windows the file is the name with ".exe".
 bool launchBesideProgram(const QString& name);
 
 } // namespace vorkan

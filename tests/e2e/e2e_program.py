@@ -8,7 +8,7 @@ import time
 
 from xsession import XSession, settle
 
-MAIN_HEIGHT, IMC_HEIGHT, CLEINSEE_HEIGHT = 202, 313, 117  # client areas, below the menus
+MAIN_HEIGHT, CLEINSEE_HEIGHT = 202, 117  # client areas, below the menus
 
 
 def open_from_main(session, button_at, title):
@@ -19,16 +19,12 @@ def open_from_main(session, button_at, title):
     return session.wait_for_window(title)
 
 
-def opens_centred_calculates_and_ends_on_quit(session, program):
+def opens_centred_and_ends_on_quit(session, program):
     centred = ((1280 - 445) // 2, (800 - MAIN_HEIGHT) // 2)  # on the session's screen
     imc = open_from_main(session, (76, 50), "IMC")
     main = session.wait_for_window("Vorkan MAC")
     assert session.client_origin(main, MAIN_HEIGHT) == centred, "the main window is not centred"
-    x, y = session.client_origin(imc, IMC_HEIGHT)
-    before = session.pixels(x + 264, y + 12, 75, 25)
-    session.keys(imc, "ctrl+a", "1", "5", "0")
-    assert session.pixels(x + 264, y + 12, 75, 25) != before, "typing did not change the index"
-    session.keys(imc, "ctrl+q")
+    session.keys(imc, "ctrl+q")  # what typing shows, the accessibility test reads
     assert program.wait(timeout=10) == 0, "Ctrl+Q did not end the program cleanly"
 
 
@@ -84,7 +80,7 @@ def stopwatch_runs_on_the_space_bar(session, program):
 COMPANIONS = [chart_covers_the_screen_and_escape_quits, stopwatch_runs_on_the_space_bar]
 
 
-def main(binary, cases=(opens_centred_calculates_and_ends_on_quit, copies_for_other_programs,
+def main(binary, cases=(opens_centred_and_ends_on_quit, copies_for_other_programs,
                         lives_on_until_the_last_window_closes, *COMPANIONS)):
     failed = 0
     with tempfile.TemporaryDirectory() as config:
