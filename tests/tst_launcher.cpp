@@ -3,6 +3,16 @@
 #include "support.h"
 
 #include <QDate>
+#include <QStyleOption>
+
+// Whether the style draws that control's focus, as it does once the keyboard has moved it.
+static bool focusShows(const QWidget* control)
+{
+    QStyleOption option;
+    option.initFrom(control);
+    return control && (option.state & QStyle::State_HasFocus) &&
+           (option.state & QStyle::State_KeyboardFocusChange);
+}
 
 class TestLauncher : public WindowTest {
     Q_OBJECT
@@ -12,9 +22,19 @@ private Q_SLOTS:
     // client area, below the menu bar, is what is centred in it.
     void opensCentredInTheFreeArea()
     {
-        QCOMPARE(availableScreenArea(), QRect(200, 30, 1000, 700));
+        QCOMPARE(availableScreenArea(), QRect(200, 30, 1000, 400));
         QCOMPARE(Window1().control<QWidget>(u"BevelButton3").mapToGlobal(QPoint(0, 0)),
-                 QPoint(200 + 277 + 13, 30 + 249 + 35));
+                 QPoint(200 + 277 + 13, 30 + 99 + 35));
+    }
+
+    // Taller than the free area, as at twice the size on a small screen: the title bar
+    // stays inside it, where the window can be moved.
+    void aTallWindowOpensWithItsTopInView()
+    {
+        const QRect area = availableScreenArea();
+        QVERIFY(norton().frameGeometry().height() > area.height());
+        QVERIFY(norton().frameGeometry().top() >= area.top());
+        QVERIFY(norton().frameGeometry().left() > area.left());
     }
 
     // In French, or as the system reports it (which the other tests replace by their
@@ -41,6 +61,116 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&imc()));
         QTest::keyClick(&imc(), Qt::Key_W, Qt::ControlModifier);
         QCOMPARE(ImplicitWindows::find(u"imc.imc"), nullptr);
+    }
+
+    // The focus shows as soon as a window opens from the keyboard, and again where it
+    // was when a menu opened with its letter is left with Escape.
+    void theFocusShows_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("menuLetter");
+        QTest::newRow("main") << QString() << int(Qt::Key_O);
+        QTest::newRow("norton") << u"BevelButton1"_s << int(Qt::Key_E);
+        QTest::newRow("pideal") << u"BevelButton6"_s << int(Qt::Key_O);
+    }
+    void theFocusShows()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, menuLetter);
+        QWidget* window = &Window1();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        if (!button.isEmpty()) {
+            QTest::keyClick(&Window1().control<BevelButton>(button), Qt::Key_Space);
+            QTRY_VERIFY(QApplication::activeWindow() != &Window1());
+            window = QApplication::activeWindow();
+        }
+        QWidget* focused = window->focusWidget();
+        QVERIFY(focusShows(focused));
+        QTest::keyClick(window, Qt::Key(menuLetter), Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        // The offscreen platform makes an open menu the active window, which no desktop
+        // does: the window keeps that place, as on a desktop.
+        window->activateWindow();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_COMPARE(QApplication::focusWidget(), focused);
+        QVERIFY(focusShows(focused));
+    }
+
+    // A figure leaves as shown, decimal mark included: a double-click takes all of it
+    // for Ctrl+C or the menu of a right click.
+    void figuresCopyAsShown_data()
+    {
+        QTest::addColumn<Win>("window");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<bool>("byMenu");
+        QTest::newRow("band") << Win::imc << u"imcsu"_s << false << false;
+        QTest::newRow("lean weight, French") << Win::imc << u"poidsmaigref"_s << true << true;
+        QTest::newRow("surface") << Win::surf << u"StaticText8"_s << false << true;
+        QTest::newRow("surface, French") << Win::surf << u"StaticText6"_s << true << false;
+        QTest::newRow("ideal weight, French") << Win::pideal << u"StaticText9"_s << true << false;
+        QTest::newRow("Norton line") << Win::norton << u"StaticText1"_s << false << false;
+        QTest::newRow("Norton line, French") << Win::norton << u"StaticText1"_s << true << true;
+    }
+    void figuresCopyAsShown()
+    {
+        QFETCH(Win, window);
+        QFETCH(QString, name);
+        QFETCH(bool, french);
+        QFETCH(bool, byMenu);
+        QLocale::setDefault(french ? QLocale::French : QLocale::C);
+        if (window == Win::norton)
+            for (int number = 1; number <= 5; ++number)
+                norton().control<PopupMenu>(u"PopupMenu%1"_s.arg(number)).setListIndex(1);
+        auto& figure = open(window).control<StaticText>(name);
+        const QString before = shown(open(window), name);
+        QVERIFY(before.size() > 1);
+        QGuiApplication::clipboard()->setText(u"before"_s);
+        QTest::mouseDClick(&figure, Qt::LeftButton, {}, QPoint(2, 2));
+        if (byMenu) {
+            QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(2, 2),
+                                      figure.mapToGlobal(QPoint(2, 2)));
+            QCoreApplication::sendEvent(&figure, &menuKey);
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu && menu->actions().first()->text() == u"&Copier"_s);
+            menu->actions().first()->trigger();
+            menu->close();
+        } else {
+            QTest::keyClick(&figure, Qt::Key_C, Qt::ControlModifier);
+        }
+        QCOMPARE(QGuiApplication::clipboard()->text(), before);
+        QCOMPARE(shown(open(window), name), before);
+    }
+
+    // The menu of a right click speaks French, key names included; a result offers
+    // copying alone.
+    void editMenus_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("field") << u"taille"_s
+                               << u"&Annuler, &Rétablir, , Co&uper, &Copier, C&oller, "
+                                  u"&Supprimer, , &Tout sélectionner"_s;
+        QTest::newRow("index") << u"imct"_s << u"&Copier, , &Tout sélectionner"_s;
+        QTest::newRow("band") << u"imcn"_s << u"&Copier, , &Tout sélectionner"_s;
+    }
+    void editMenus()
+    {
+        QFETCH(QString, name);
+        auto& control = imc().control<QWidget>(name);
+        QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(2, 2),
+                                control.mapToGlobal(QPoint(2, 2)));
+        QCoreApplication::sendEvent(&control, &click);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QStringList items;
+        for (const QAction* item : menu->actions())
+            items << item->text();
+        menu->close();
+        QTEST(items.join(u", "), "expected");
+        QCOMPARE(
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete).toString(QKeySequence::NativeText),
+            u"Ctrl+Maj+Suppr"_s);
     }
 
     // Each window shows one menu, greyed items in brackets, separators empty; the Infos

@@ -1,5 +1,7 @@
 #include "support.h"
 
+#include <QAbstractItemView>
+
 static PopupMenu& popup(int number)
 {
     return norton().control<PopupMenu>(u"PopupMenu%1"_s.arg(number));
@@ -72,6 +74,35 @@ private Q_SLOTS:
         QTEST(result(), "expected");
         norton().OptionsCopier().trigger();
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Score de Norton : "_s + result());
+    }
+
+    // Opened from the keyboard with no row chosen, when the window opens or after a
+    // reset, a list takes its first row on the first Down, and nothing before Return.
+    void keyboardListStartsAtTheFirstRow_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::newRow("Space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+        QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
+        QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier);
+    }
+    void keyboardListStartsAtTheFirstRow()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        chooseAll(lastRows);
+        norton().OptionsRAZ().trigger();
+        for (int number = 1; number <= 5; ++number) {
+            PopupMenu& menu = popup(number);
+            menu.setFocus();
+            QTest::keyClick(&menu, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+            QVERIFY(menu.view()->isVisible());
+            QTest::keyClick(menu.view(), Qt::Key_Down);
+            QCOMPARE(menu.ListIndex(), -1);
+            QTest::keyClick(menu.view(), Qt::Key_Return);
+            QCOMPARE(menu.ListIndex(), 0);
+        }
+        QCOMPARE(result(), u"Risque minimum - [20]"_s);
     }
 
     // After a reset the missing criterion holds the result back, whatever the order of

@@ -17,6 +17,10 @@ constexpr WindowProps props{u"IMC", 532, 313};
 constexpr ControlProps threeDigits{.maskDigits = 3};
 constexpr ControlProps inBox1{.inside = u"GroupBox1"};
 constexpr ControlProps inBox2{.inside = u"GroupBox2"};
+// Results, which the user can select and copy.
+constexpr ControlProps figure{.selectable = true};
+constexpr ControlProps figureInBox1{.inside = u"GroupBox1", .selectable = true};
+constexpr ControlProps figureInBox2{.inside = u"GroupBox2", .selectable = true};
 constexpr ControlProps sourceInBox1{.inside = u"GroupBox1", .textSize = 9};
 constexpr ControlProps sourceInBox2{.inside = u"GroupBox2", .textSize = 9};
 
@@ -32,7 +36,7 @@ constexpr LayoutRow layoutTable[] = {
     {u"imct",          Kind::TextField,    {264,  12,  75,  25},  6, u"0",
                                            {.bold = true, .textSize = 14, .readOnly = true}},
     {u"StaticText3",   Kind::StaticText,   {165,  14,  80,  20},  7, u"IMC (kg/m²)",   {.bold = true}},
-    {u"imclab",        Kind::StaticText,   {172,  38, 167,  17},  8, u"",              {.centred = true}},
+    {u"imclab",        Kind::StaticText,   {172,  38, 167,  17},  8, u"",              {.centred = true, .selectable = true}},
     {u"imcaide",       Kind::PushButton,   { 23, 141,  26,  27}, 17, u"?"},
     {u"Line1",         Kind::Line,         {104,   0, 100,  50}, -1, u"",              {.line = {104, 0, 104, 313}}},
     {u"StaticText8",   Kind::StaticText,   {116, 140, 129,  20}, 19, u"Corpulence normale"},
@@ -44,8 +48,8 @@ constexpr LayoutRow layoutTable[] = {
     {u"StaticText5",   Kind::StaticText,   {380, 152,  56,  23},  0, u"Homme",         inBox2},
     {u"StaticText14",  Kind::StaticText,   {380, 188,  50,  20},  1, u"Femme",         inBox2},
     {u"StaticText18",  Kind::StaticText,   {385, 215,  62,  14},  4, u"James 1981",    sourceInBox2},
-    {u"poidsmaigreh",  Kind::StaticText,   {448, 152,  53,  23},  5, u"",              inBox2},
-    {u"poidsmaigref",  Kind::StaticText,   {448, 187,  53,  23},  6, u"",              inBox2},
+    {u"poidsmaigreh",  Kind::StaticText,   {448, 152,  53,  23},  5, u"",              figureInBox2},
+    {u"poidsmaigref",  Kind::StaticText,   {448, 187,  53,  23},  6, u"",              figureInBox2},
     {u"StaticText15",  Kind::StaticText,   {116, 108,  62,  20}, 31, u"Maigreur"},
     {u"StaticText16",  Kind::StaticText,   {116,  73,  74,  20}, 33, u"Dénutrition"},
     {u"Line2",         Kind::Line,         {351,   0, 100,  50}, -1, u"",              {.line = {351, 0, 350, 313}}},
@@ -53,15 +57,15 @@ constexpr LayoutRow layoutTable[] = {
     {u"StaticText13",  Kind::StaticText,   {381,  74,  50,  20},  0, u"Femme",         inBox1},
     {u"StaticText4",   Kind::StaticText,   {381,  38,  56,  23},  1, u"Homme",         inBox1},
     {u"StaticText17",  Kind::StaticText,   {385, 101,  62,  14},  4, u"Devine 1974",   sourceInBox1},
-    {u"poidsidealh",   Kind::StaticText,   {448,  39,  53,  23},  5, u"",              inBox1},
-    {u"poidsidealf",   Kind::StaticText,   {448,  75,  53,  23},  6, u"",              inBox1},
-    {u"imcde",         Kind::StaticText,   {264,  72,  75,  23}, 34},
-    {u"imcma",         Kind::StaticText,   {264, 107,  75,  23}, 35},
-    {u"imcn",          Kind::StaticText,   {264, 138,  75,  23}, 36},
-    {u"imcsu",         Kind::StaticText,   {264, 172,  75,  23}, 37},
-    {u"imcom",         Kind::StaticText,   {264, 205,  75,  23}, 38},
-    {u"imcos",         Kind::StaticText,   {264, 238,  75,  23}, 39},
-    {u"imcomo",        Kind::StaticText,   {264, 271,  75,  23}, 40},
+    {u"poidsidealh",   Kind::StaticText,   {448,  39,  53,  23},  5, u"",              figureInBox1},
+    {u"poidsidealf",   Kind::StaticText,   {448,  75,  53,  23},  6, u"",              figureInBox1},
+    {u"imcde",         Kind::StaticText,   {264,  72,  75,  23}, 34, u"",              figure},
+    {u"imcma",         Kind::StaticText,   {264, 107,  75,  23}, 35, u"",              figure},
+    {u"imcn",          Kind::StaticText,   {264, 138,  75,  23}, 36, u"",              figure},
+    {u"imcsu",         Kind::StaticText,   {264, 172,  75,  23}, 37, u"",              figure},
+    {u"imcom",         Kind::StaticText,   {264, 205,  75,  23}, 38, u"",              figure},
+    {u"imcos",         Kind::StaticText,   {264, 238,  75,  23}, 39, u"",              figure},
+    {u"imcomo",        Kind::StaticText,   {264, 271,  75,  23}, 40, u"",              figure},
 };
 
 constexpr LabelledBy labels[] = {

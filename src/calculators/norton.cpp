@@ -32,7 +32,8 @@ constexpr LayoutRow layoutTable[] = {
     {u"PopupMenu5",      Kind::PopupMenu,      { 31, 343, 154,  27}, 0, u"", {.inside = u"GroupBox5"}},
     {u"RoundRectangle1", Kind::RoundRectangle, {  8, 389, 209,  39}, 6, u"", {.shape = {.oval = 16}}},
     {u"StaticText1",     Kind::StaticText,     { 15, 396, 184,  24}, 0, u"",
-                                               {.inside = u"RoundRectangle1", .bold = true, .centred = true}},
+                                               {.inside = u"RoundRectangle1", .bold = true, .centred = true,
+                                                .selectable = true}},
 };
 
 constexpr LabelledBy labels[] = {

@@ -27,6 +27,8 @@ constexpr SliderProps ageSlider{.minimum = 20,
                                 .liveScroll = true};
 
 constexpr ControlProps inBox{.inside = u"GroupBox1"};
+// Results, which the user can select and copy.
+constexpr ControlProps figureInBox{.inside = u"GroupBox1", .selectable = true};
 
 // The age label's two blanks are what it shows until the age slider first moves.
 // clang-format off
@@ -43,11 +45,11 @@ constexpr LayoutRow layoutTable[] = {
     {u"StaticText5",  Kind::StaticText,  {192, 143,  52,  25},  2, u"Perrault",           inBox},
     {u"StaticText4",  Kind::StaticText,  {192, 125,  52,  25},  3, u"Lorentz",            inBox},
     {u"StaticText3",  Kind::StaticText,  {192, 106,  38,  25},  4, u"Broca",              inBox},
-    {u"StaticText8",  Kind::StaticText,  {308, 109,  44,  19},  5, u"0",                  inBox},
-    {u"StaticText9",  Kind::StaticText,  {308, 128,  44,  19},  6, u"0",                  inBox},
-    {u"StaticText10", Kind::StaticText,  {308, 145,  44,  20},  7, u"0",                  inBox},
-    {u"StaticText11", Kind::StaticText,  {308, 165,  44,  19},  8, u"0",                  inBox},
-    {u"StaticText12", Kind::StaticText,  {308, 183,  44,  19},  9, u"0",                  inBox},
+    {u"StaticText8",  Kind::StaticText,  {308, 109,  44,  19},  5, u"0",                  figureInBox},
+    {u"StaticText9",  Kind::StaticText,  {308, 128,  44,  19},  6, u"0",                  figureInBox},
+    {u"StaticText10", Kind::StaticText,  {308, 145,  44,  20},  7, u"0",                  figureInBox},
+    {u"StaticText11", Kind::StaticText,  {308, 165,  44,  19},  8, u"0",                  figureInBox},
+    {u"StaticText12", Kind::StaticText,  {308, 183,  44,  19},  9, u"0",                  figureInBox},
 };
 
 constexpr LabelledBy labels[] = {

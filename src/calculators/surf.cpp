@@ -12,6 +12,8 @@ constexpr WindowProps props{u"Surface corporelle", 330, 188};
 
 constexpr ControlProps threeDigits{.maskDigits = 3};
 constexpr ControlProps inBox{.inside = u"GroupBox1"};
+// Results, which the user can select and copy.
+constexpr ControlProps figureInBox{.inside = u"GroupBox1", .selectable = true};
 
 // The left column sits exactly where imc has it.
 // clang-format off
@@ -28,9 +30,9 @@ constexpr LayoutRow layoutTable[] = {
     {u"StaticText3",       Kind::StaticText,   {137,  47,  46,  21},  0, u"Dubois",         inBox},
     {u"StaticText4",       Kind::StaticText,   {137,  68,  99,  21},  1, u"Gehan && Gorge", inBox},
     {u"StaticText5",       Kind::StaticText,   {137,  90,  63,  21},  2, u"Mosteller",      inBox},
-    {u"StaticText6",       Kind::StaticText,   {261,  46,  39,  22},  3, u"0",              inBox},
-    {u"StaticText7",       Kind::StaticText,   {261,  67,  39,  22},  4, u"0",              inBox},
-    {u"StaticText8",       Kind::StaticText,   {261,  89,  39,  22},  5, u"0",              inBox},
+    {u"StaticText6",       Kind::StaticText,   {261,  46,  39,  22},  3, u"0",              figureInBox},
+    {u"StaticText7",       Kind::StaticText,   {261,  67,  39,  22},  4, u"0",              figureInBox},
+    {u"StaticText8",       Kind::StaticText,   {261,  89,  39,  22},  5, u"0",              figureInBox},
 };
 
 constexpr LabelledBy labels[] = {

@@ -37,6 +37,8 @@ QWidget* makeStaticText(const LayoutRow& row, QWidget* parent)
     auto* label = new StaticText(parent);
     label->setText(row.text.toString());
     label->setAlignment((row.props.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
+    if (row.props.selectable)
+        label->setSelectable();
     return label;
 }
 

@@ -2,16 +2,19 @@
 
 #include "accessibility.h"
 #include "digitmask.h"
+#include "editmenu.h"
 #include "platform.h"
 #include "textops.h"
-#include "tipwidget.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -98,23 +101,24 @@ bool TextField::keyDown(QKeyEvent& event)
 {
     if (isModifierAlone(event))
         return false;
-    hideBalloon();
     if (KeyDown && KeyDown(keyText(event)))
         return true;
     if (!mask_ || isReadOnly())
         return false;
     if (event.matches(QKeySequence::Paste)) {
-        pasteFromKey(event);
+        pasteChecked();
         return true;
     }
     return typesText(event) && refuse(mask_->refusal(*this, event.text()));
 }
 
 // A paste the mask turns away leaves the text as it was, which says it was refused.
-void TextField::pasteFromKey(QKeyEvent& event)
+void TextField::pasteChecked()
 {
     const QString before = text();
-    QLineEdit::keyPressEvent(&event);
+    paste();
+    if (!mask_)
+        return;
     const QString pasted = QGuiApplication::clipboard()->text();
     if (text() == before && !pasted.isEmpty())
         refuse(mask_->refusal(*this, pasted));
@@ -125,28 +129,50 @@ bool TextField::refuse(const QString& why)
     if (why.isEmpty())
         return false;
     QApplication::beep();
-    if (!balloon_)
-        balloon_ = new TipWidget(window());
-    constexpr int balloonMs = 4000;
-    balloon_->showAt(why, mapToGlobal(QPoint(0, height() + 2)), balloonMs);
+    balloon_.show(why);
     return true;
-}
-
-void TextField::hideBalloon()
-{
-    if (balloon_)
-        balloon_->hide();
 }
 
 const QLabel* TextField::balloon() const
 {
-    return balloon_ && balloon_->isVisible() ? balloon_.data() : nullptr;
+    return balloon_.shown();
 }
 
 void TextField::focusOutEvent(QFocusEvent* event)
 {
-    hideBalloon();
+    balloon_.hide();
     QLineEdit::focusOutEvent(event);
+}
+
+// A change made from the menu reaches the window as one typed does: its KeyUp follows.
+void TextField::contextMenuEvent(QContextMenuEvent* event)
+{
+    const auto edit = [this](auto command) {
+        return [this, command] {
+            std::invoke(command, this);
+            Q_EMIT KeyUp(QString());
+        };
+    };
+    const bool selected = hasSelectedText();
+    const bool canSelectMore = !text().isEmpty() && selectedText() != text();
+    const EditCommand copy{u"&Copier"_s, QKeySequence::Copy, selected, [this] { this->copy(); }};
+    const EditCommand selectAll{u"&Tout sélectionner"_s, QKeySequence::SelectAll, canSelectMore,
+                                [this] { this->selectAll(); }};
+    if (isReadOnly()) {
+        popUpEditMenu(*this, event->globalPos(), {copy, {}, selectAll});
+        return;
+    }
+    const bool canPaste = !QGuiApplication::clipboard()->text().isEmpty();
+    popUpEditMenu(*this, event->globalPos(),
+                  {{u"&Annuler"_s, QKeySequence::Undo, isUndoAvailable(), edit(&QLineEdit::undo)},
+                   {u"&Rétablir"_s, QKeySequence::Redo, isRedoAvailable(), edit(&QLineEdit::redo)},
+                   {},
+                   {u"Co&uper"_s, QKeySequence::Cut, selected, edit(&QLineEdit::cut)},
+                   copy,
+                   {u"C&oller"_s, QKeySequence::Paste, canPaste, edit(&TextField::pasteChecked)},
+                   {u"&Supprimer"_s, QKeySequence::Delete, selected, edit(&QLineEdit::del)},
+                   {},
+                   selectAll});
 }
 
 void TextField::keyReleaseEvent(QKeyEvent* event)
@@ -188,21 +214,31 @@ void StaticText::labels(QWidget& control, const QString& prefix)
     control.setAccessibleName(prefix + QLabel::text());
 }
 
-// Measured when painted rather than when written, so that a calculation that writes
-// many results pays nothing for it.
-void StaticText::paintEvent(QPaintEvent*)
+void StaticText::setSelectable()
 {
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+void StaticText::paintEvent(QPaintEvent* event)
+{
+    fitFont();
+    QLabel::paintEvent(event);
+}
+
+// Measured when painted rather than when written, so that a calculation that writes
+// many results pays nothing for it. A font that changes asks for one more paint.
+void StaticText::fitFont()
+{
+    if (!layoutFont_)
+        layoutFont_ = font();
     const QString shown = QLabel::text();
-    const QRect box = contentsRect();
-    QFont fitted = font();
+    const int room = contentsRect().width();
+    QFont fitted = *layoutFont_;
     constexpr qreal smallest = 6;
-    while (fitted.pointSizeF() > smallest &&
-           QFontMetricsF(fitted).horizontalAdvance(shown) > box.width())
+    while (fitted.pointSizeF() > smallest && QFontMetricsF(fitted).horizontalAdvance(shown) > room)
         fitted.setPointSizeF(fitted.pointSizeF() - 0.5);
-    QPainter painter(this);
-    painter.setFont(fitted);
-    style()->drawItemText(&painter, box, static_cast<int>(alignment()), palette(), isEnabled(),
-                          shown, foregroundRole());
+    if (fitted != font())
+        setFont(fitted);
 }
 
 void StaticText::mousePressEvent(QMouseEvent* event)
@@ -211,6 +247,30 @@ void StaticText::mousePressEvent(QMouseEvent* event)
     if (MouseDown && MouseDown(at.x(), at.y()))
         return;
     QLabel::mousePressEvent(event);
+}
+
+// A figure is one thing to copy: a double-click takes all of it, signs and marks too.
+void StaticText::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (textInteractionFlags() & Qt::TextSelectableByMouse)
+        setSelection(0, static_cast<int>(QLabel::text().size()));
+    else
+        QLabel::mouseDoubleClickEvent(event);
+}
+
+void StaticText::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!(textInteractionFlags() & Qt::TextSelectableByMouse)) {
+        QLabel::contextMenuEvent(event);
+        return;
+    }
+    const QString shown = QLabel::text();
+    popUpEditMenu(*this, event->globalPos(),
+                  {{u"&Copier"_s, QKeySequence::Copy, hasSelectedText(),
+                    [this] { Clipboard::setText(selectedText()); }},
+                   {},
+                   {u"&Tout sélectionner"_s, QKeySequence::SelectAll, selectedText() != shown,
+                    [this, shown] { setSelection(0, static_cast<int>(shown.size())); }}});
 }
 
 void StaticText::leaveEvent(QEvent* event)
@@ -265,6 +325,17 @@ void PushButton::focusOutEvent(QFocusEvent* event)
 }
 
 PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent) {}
+
+// A list with no row chosen opens with none under the keyboard either, so that the
+// first Down lands on the first row. Qt's list would take its first row as the place
+// to move from when it gets the focus with no place set; a place set once, even none,
+// stops that.
+void PopupMenu::showPopup()
+{
+    if (currentIndex() == -1)
+        view()->setCurrentIndex(QModelIndex());
+    QComboBox::showPopup();
+}
 
 // Qt would choose the first row added to an empty list by itself.
 void PopupMenu::AddRow(const QString& text)

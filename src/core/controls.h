@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refusalballoon.h"
 #include "types.h"
 
 #include <QComboBox>
@@ -11,11 +12,11 @@
 #include <QSlider>
 
 #include <functional>
+#include <optional>
 
 namespace vorkan {
 
 class DigitMask;
-class TipWidget;
 
 // The handlers that answer whether they consumed their event, which a Qt signal
 // cannot; every other event of a control is a signal.
@@ -36,7 +37,7 @@ public:
 // A one-line field. KeyDown runs before the field sees the key, Tab included, so the
 // text is still the one from before the key, also for a key the field will refuse; a
 // modifier pressed alone is no key. A key or a paste that the mask refuses beeps and
-// says why in a balloon below the field, until the next key or for a few seconds.
+// says why in a balloon beside the field, which stays a few seconds whatever comes next.
 class TextField : public RectControl<QLineEdit> {
     Q_OBJECT
 
@@ -50,6 +51,9 @@ public:
     // The balloon while it is up, else null.
     const QLabel* balloon() const;
 
+    // Pastes the clipboard, saying why when the mask refuses it.
+    void pasteChecked();
+
     KeyDownHandler KeyDown;
     MouseWheelHandler MouseWheel;
 
@@ -62,16 +66,15 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     bool keyDown(QKeyEvent& event);
-    void pasteFromKey(QKeyEvent& event);
     // Beeps and says why in the balloon; false when there is nothing to say.
     bool refuse(const QString& why);
-    void hideBalloon();
 
     DigitMask* mask_ = nullptr;
-    QPointer<TipWidget> balloon_;
+    RefusalBalloon balloon_{*this};
 };
 
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
@@ -86,6 +89,11 @@ public:
     QString text() const { return caption_; }
     void setText(const QString& caption);
 
+    // The user can select the text with the mouse, a double-click taking all of it,
+    // and copy it as shown, with Ctrl+C or the menu of a right click. A click gives
+    // it the focus for that; Tab still passes it by.
+    void setSelectable();
+
     // Names that control, for assistive tools, after this caption (and the prefix), now
     // and whenever the caption changes.
     void labels(QWidget& control, const QString& prefix);
@@ -97,11 +105,16 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void fitFont();
+
     QString caption_;
+    std::optional<QFont> layoutFont_;
     QPointer<QWidget> labelled_;
     QString labelPrefix_;
 };
@@ -152,6 +165,8 @@ public:
     void AddRow(const QString& text);
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index) { setCurrentIndex(index); }
+
+    void showPopup() override;
 };
 
 // A horizontal slider; its ValueChanged is valueChanged.

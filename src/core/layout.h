@@ -50,6 +50,7 @@ struct ControlProps {
     int textSize = 0; // points; 0 keeps the application's size
     bool centred = false;
     bool readOnly = false;
+    bool selectable = false;    // a figure the user can select and copy
     int maskDigits = 0;         // a Mask of that many "#"
     bool groupedDigits = false; // a pasted number may be written in groups of digits
     QStringView helpTag{};

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -53,13 +54,42 @@ void addItem(QMenu& menu, const MenuItem& item)
     }
 }
 
+// Escape closes a menu and gives the keyboard back to the control that had it, where
+// the focus shows, instead of leaving it on the bar's title, where it hardly shows and
+// Tab does nothing.
+class EscapeLeavesBar : public QObject {
+public:
+    explicit EscapeLeavesBar(QMenuBar* bar) : QObject(bar), bar_(bar) {}
+
+    bool eventFilter(QObject* /*menu*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
+            QMetaObject::invokeMethod(this, &EscapeLeavesBar::leaveBar, Qt::QueuedConnection);
+        return false;
+    }
+
+private:
+    void leaveBar()
+    {
+        if (!bar_->hasFocus())
+            return;
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(bar_, &escape);
+    }
+
+    QMenuBar* bar_;
+};
+
 } // namespace
 
 QMenuBar* buildMenuBar(const MenuBar& model, QWidget* window)
 {
     auto* bar = new QMenuBar(window);
+    auto* escape = new EscapeLeavesBar(bar);
     for (const MenuItem& menuItem : model.menus()) {
         QMenu* menu = bar->addMenu(menuItem.Text);
+        menu->installEventFilter(escape);
         menu->setObjectName(menuItem.Name);
         for (const MenuItem& item : menuItem.children)
             addItem(*menu, item);

@@ -25,11 +25,17 @@ void TipWidget::showAt(const QString& lines, QPoint corner, int hideAfterMs)
     expiry_.stop();
     if (hideAfterMs > 0)
         expiry_.start(hideAfterMs);
-    setText(lines);
-    adjustSize();
+    sizeFor(lines);
     move(corner);
     show();
     raise();
+}
+
+QSize TipWidget::sizeFor(const QString& lines)
+{
+    setText(lines);
+    adjustSize();
+    return size();
 }
 
 void TipWidget::paintEvent(QPaintEvent* event)

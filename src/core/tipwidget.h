@@ -14,6 +14,8 @@ public:
     // Shows the text, one line per line break, with the box's top left corner there;
     // it hides itself after that many milliseconds, or stays when that is 0.
     void showAt(const QString& lines, QPoint corner, int hideAfterMs = 0);
+    // The size of the box with that text, before it is shown.
+    QSize sizeFor(const QString& lines);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -7,11 +7,14 @@
 #include "platform.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <vector>
@@ -88,9 +91,37 @@ void Window::Layout()
     setWindowTitle(props_.title.toString());
     setWindowFlag(Qt::WindowMaximizeButtonHint, props_.maximizeButton);
     client_->setFixedSize(props_.width, props_.height);
+    placeCentred();
+}
+
+namespace {
+
+// The frame that the desktop draws around a window, as it has drawn it around one of the
+// program's windows already on the screen; a new window has none until it is shown.
+QMargins frameOnScreen(const QWidget& window)
+{
+    for (const QWidget* shown : QApplication::topLevelWidgets())
+        if (shown->isVisible() && shown->windowHandle() &&
+            shown->frameGeometry() != shown->geometry())
+            return shown->windowHandle()->frameMargins();
+    const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return {0, titleBar, 0, 0};
+}
+
+} // namespace
+
+// The client area is centred on the free area of the screen. A window larger than that
+// area starts at its top left corner instead, its title bar on the screen, where the
+// window can still be moved.
+void Window::placeCentred()
+{
     const QRect area = availableScreenArea();
-    move(area.left() + (area.width() - props_.width) / 2,
-         area.top() + (area.height() - props_.height) / 2);
+    const QMargins frame = frameOnScreen(*this);
+    const QPoint menuBar = clientOffset();
+    setLeft(std::max(area.left() + frame.left() + menuBar.x(),
+                     area.left() + (area.width() - props_.width) / 2));
+    setTop(std::max(area.top() + frame.top() + menuBar.y(),
+                    area.top() + (area.height() - props_.height) / 2));
 }
 
 void Window::setMenuBar(const MenuBar& bar)
@@ -167,6 +198,14 @@ void Window::Show()
 void Window::Close()
 {
     close();
+}
+
+// The focus shows from the moment the window opens, not only after the first Tab:
+// someone at the keyboard must see where typing goes.
+void Window::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void Window::closeEvent(QCloseEvent* event)

@@ -89,11 +89,13 @@ protected:
     QWidget& clientArea() const { return *client_; }
 
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     friend class ImplicitWindows;
     friend class ControlRefBase;
     void build();
+    void placeCentred();
     QPoint clientOffset() const;
     void applyTabOrder(std::span<const LayoutRow> rows);
     QList<QMenu*> menus() const;

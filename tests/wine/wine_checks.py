@@ -22,7 +22,7 @@ def free_area_below_a_panel(session):
     """Gives the display the free area of the launcher tests' screen (data/
     screen-below-panel.json), which Wine passes on to Windows programs as the work area."""
     session.root.change_property(session.dpy.intern_atom("_NET_WORKAREA"), Xatom.CARDINAL,
-                                 32, [200, 30, 1000, 700])
+                                 32, [200, 30, 1000, 400])
     session.dpy.flush()
 
 
