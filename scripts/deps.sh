@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building needs and, with "package", what making the
-# Debian package needs too, with "test", everything the tests need, or with "windows",
-# that and the Windows build and its tests under Wine; only those that are missing.
+# Debian package needs too, with "bench", what counting instructions needs, with "test",
+# everything the tests need, or with "windows", that and the Windows build and its tests
+# under Wine; only those that are missing.
 # Uses sudo only when not root.
 set -euo pipefail
 
@@ -10,6 +11,7 @@ packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dej
 packaging=(dpkg-dev file)
 case "${1:-}" in
 package) packages+=("${packaging[@]}") ;;
+bench) packages+=(valgrind) ;;
 test | windows)
     packages+=("${packaging[@]}" xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils
         appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)

@@ -1,6 +1,7 @@
 #include "app.h"
 
 #include "accessibility.h"
+#include "deferrediconstyle.h"
 #include "frenchkeys.h"
 #include "platform.h"
 #include "version.h"
@@ -19,6 +20,7 @@ App::App(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationName(u"Vorkan MAC"_s);
     setOrganizationName(u"Vorkan"_s);
     setApplicationVersion(QStringLiteral(VORKAN_VERSION));
+    setStyle(new DeferredIconStyle);
     installTranslator(new FrenchKeyNames(this));
     installAccessibility();
 }
