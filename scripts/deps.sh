@@ -5,7 +5,9 @@
 # Uses sudo only when not root.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
+# rsvg-convert draws the icons from their SVG.
+packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core
+    librsvg2-bin)
 # CPack reads the programs' library dependencies with dpkg-shlibdeps, which needs file.
 packaging=(dpkg-dev file)
 case "${1:-}" in
@@ -15,8 +17,7 @@ test | windows)
         appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
     ;;&
 windows)
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin
-        icoutils locales)
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl icoutils locales)
     ;;
 esac
 
