@@ -22,8 +22,12 @@ if ((reproducible)); then
     trap 'rm -rf "$work"' EXIT
     for build in "a/vorkan-mac" "second/copy/vorkan-mac"; do
         git clone -q "$repo" "$work/$build"
-        (cd "$work/$build" && if [[ $build == a/* ]]; then umask 077; fi &&
-            scripts/package.sh >"$work/${build%%/*}.log" 2>&1)
+        log=$work/${build%%/*}.log
+        if ! (cd "$work/$build" && if [[ $build == a/* ]]; then umask 077; fi &&
+            scripts/package.sh >"$log" 2>&1); then
+            tail -20 "$log" >&2
+            exit 1
+        fi
         echo "== $work/$build"
         (cd "$work/$build/build/package" && sha256sum ./*.deb)
     done
