@@ -1,24 +1,29 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building needs and, with "package", what making the
-# Debian package needs too, with "bench", what counting instructions needs, with "test",
+# Debian package needs too, with "check", that and the tools that check the package
+# (scripts/check-package.sh), with "bench", what counting instructions needs, with "test",
 # everything the tests need, or with "windows", that and the Windows build and its tests
 # under Wine; only those that are missing.
 # Uses sudo only when not root.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core)
-# CPack reads the programs' library dependencies with dpkg-shlibdeps, which needs file.
-packaging=(dpkg-dev file)
+# rsvg-convert draws the icons from their SVG.
+packages=(cmake ninja-build g++ qt6-base-dev qt6-qpa-plugins libgl-dev fonts-dejavu-core
+    librsvg2-bin)
+# dpkg-buildpackage and debhelper, as debian/control's Build-Depends name them.
+packaging=(dpkg-dev debhelper)
+# lintian, and hardening-check from devscripts.
+checking=(lintian devscripts)
 case "${1:-}" in
 package) packages+=("${packaging[@]}") ;;
+check) packages+=("${packaging[@]}" "${checking[@]}") ;;
 bench) packages+=(valgrind) ;;
 test | windows)
-    packages+=("${packaging[@]}" xvfb xauth xdotool xclip python3 python3-xlib desktop-file-utils
-        appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
+    packages+=("${packaging[@]}" "${checking[@]}" xvfb xauth xdotool xclip python3 python3-xlib
+        desktop-file-utils appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
     ;;&
 windows)
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin
-        icoutils locales)
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl icoutils locales)
     ;;
 esac
 

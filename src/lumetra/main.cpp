@@ -1,3 +1,4 @@
+#include "../windowicon.h"
 #include "calibrationstore.h"
 #include "chartwindow.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"Vorkan"_s);
     QApplication::setApplicationName(u"lumetra"_s);
+    new WindowIconAfterFirstFrame(app); // owned by app
     QSettings settings;
     lumetra::CalibrationStore store(settings);
     lumetra::ChartWindow chart(store);

@@ -1,3 +1,4 @@
+#include "../windowicon.h"
 #include "chronowindow.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"Vorkan"_s);
     QApplication::setApplicationName(u"pendulo"_s);
+    new WindowIconAfterFirstFrame(app); // owned by app
     const pendulo::SteadyClock clock;
     pendulo::ChronoWindow window(clock);
     // Centred on the main screen's free area, as the main program's windows open.
