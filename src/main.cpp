@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
         class App app(argc, argv);
         // The program ends with its last window, which must hold before one can close.
         app.Event_Open();
-        new WindowIconAfterFirstFrame(app); // owned by app
+        installWindowIcon();
         startup(app);
         return app.exec();
     } catch (const std::exception& error) {

@@ -1,6 +1,6 @@
-#include "../windowicon.h"
 #include "calibrationstore.h"
 #include "chartwindow.h"
+#include "windowicon.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"Vorkan"_s);
     QApplication::setApplicationName(u"lumetra"_s);
-    new WindowIconAfterFirstFrame(app); // owned by app
+    installWindowIcon();
     QSettings settings;
     lumetra::CalibrationStore store(settings);
     lumetra::ChartWindow chart(store);

@@ -1,5 +1,5 @@
-#include "../windowicon.h"
 #include "chronowindow.h"
+#include "windowicon.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -11,7 +11,7 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setOrganizationName(u"Vorkan"_s);
     QApplication::setApplicationName(u"pendulo"_s);
-    new WindowIconAfterFirstFrame(app); // owned by app
+    installWindowIcon();
     const pendulo::SteadyClock clock;
     pendulo::ChronoWindow window(clock);
     // Centred on the main screen's free area, as the main program's windows open.
