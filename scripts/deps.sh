@@ -16,7 +16,7 @@ test | windows)
     ;;&
 windows)
     packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl librsvg2-bin
-        icoutils locales)
+        icoutils locales osslsigncode openssl)
     ;;
 esac
 
