@@ -31,9 +31,22 @@ throwaway_certificate() {
     cd - >/dev/null
 }
 
+# The checks trust the system's authorities and those that come with the certificate
+# (an organisation's own, say). Older PKCS#12 files need OpenSSL's legacy ciphers.
+certificate_authorities() {
+    cat /etc/ssl/certs/ca-certificates.crt 2>/dev/null || true
+    local legacy
+    for legacy in "" -legacy; do
+        printf '%s' "$password" | openssl pkcs12 -in "$pkcs12" -cacerts -nokeys \
+            -passin stdin $legacy 2>/dev/null && return
+    done
+}
+
 if [[ -n ${VORKAN_SIGN_PKCS12:-} ]]; then
     pkcs12=$VORKAN_SIGN_PKCS12 password=${VORKAN_SIGN_PASSWORD:-}
-    trusted=()
+    mkdir -p "$folder"
+    certificate_authorities >"$folder/trusted.pem"
+    trusted=(-CAfile "$folder/trusted.pem")
 else
     throwaway_certificate
     pkcs12=$folder/signer.p12 password=test
