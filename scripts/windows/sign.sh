@@ -5,8 +5,9 @@
 # VORKAN_SIGN_TIMESTAMP, a time-stamping server (RFC 3161) dates each signature, so
 # that it outlives the certificate. Without a certificate, a throwaway one of a
 # throwaway authority, made in FOLDER unless already there, signs instead: the signing
-# and its checks are then tested, and the files are fit for testing only. URL is the
-# program's web page, which the signature names.
+# and its checks are then tested, and the files are fit for testing only. The checks
+# trust the authorities in FOLDER/trusted.pem. URL is the program's web page, which the
+# signature names.
 set -euo pipefail
 folder=$1 url=$2
 shift 2
@@ -46,11 +47,10 @@ if [[ -n ${VORKAN_SIGN_PKCS12:-} ]]; then
     pkcs12=$VORKAN_SIGN_PKCS12 password=${VORKAN_SIGN_PASSWORD:-}
     mkdir -p "$folder"
     certificate_authorities >"$folder/trusted.pem"
-    trusted=(-CAfile "$folder/trusted.pem")
 else
     throwaway_certificate
     pkcs12=$folder/signer.p12 password=test
-    trusted=(-CAfile "$folder/ca.pem")
+    cp "$folder/ca.pem" "$folder/trusted.pem"
     echo "  no VORKAN_SIGN_PKCS12: signing with a throwaway test certificate" >&2
 fi
 timestamp=()
@@ -61,7 +61,7 @@ for file in "$@"; do
     osslsigncode sign -pkcs12 "$pkcs12" -readpass <(printf '%s' "$password") -h sha256 \
         -n "Vorkan MAC" -i "$url" "${timestamp[@]}" -in "$file" -out "$file.signed" >/dev/null
     mv "$file.signed" "$file"
-    if ! osslsigncode verify "${trusted[@]}" -in "$file" >"$file.verify" 2>&1; then
+    if ! osslsigncode verify -CAfile "$folder/trusted.pem" -in "$file" >"$file.verify" 2>&1; then
         cat "$file.verify" >&2
         echo "$file: the signature does not verify" >&2
         exit 1
