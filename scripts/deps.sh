@@ -23,7 +23,8 @@ test | windows)
         desktop-file-utils appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
     ;;&
 windows)
-    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl icoutils locales)
+    packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl
+        icoutils locales osslsigncode openssl)
     ;;
 esac
 

@@ -1,16 +1,45 @@
 #!/usr/bin/env bash
 # Prints the folder of a Qt built for 64-bit Windows, building it first when the cache
-# lacks it. No Debian package gives Qt for mingw-w64, so it is cross-built, once per
-# Qt version, from Debian's own source of the Qt this machine has: qtbase only, with
-# Qt's build tools taken from Debian's Qt. The cache lives outside the repository, and
-# only a finished build ever takes the cache's name.
+# lacks it. No Debian package gives Qt for mingw-w64, so it is cross-built from
+# Debian's own source of the Qt this machine has: qtbase only, and of it only what the
+# programs and their tests load, with Qt's build tools taken from Debian's Qt. The
+# cache lives outside the repository, one folder per Qt version and build set-up (so a
+# change to either builds anew), and only a finished build ever takes its name.
 set -euo pipefail
 repo=$(cd "$(dirname "$0")/../.." && pwd)
+toolchain=$repo/cmake/mingw-w64-x86_64.cmake
+
+# Debian's tablet (wintab) header is missing from its trimmed source. The rest is left
+# out because nothing the programs do or show uses it: modules and plugins they do not
+# load, the Direct2D platform plugin (not its DirectWrite font engine, which the
+# windows plugin uses), and classes they never create, most of them widgets.
+options=(-DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DFEATURE_pkg_config=OFF
+    -DFEATURE_tabletevent=OFF
+    -DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF -DFEATURE_printsupport=OFF
+    -DFEATURE_concurrent=OFF -DFEATURE_xml=OFF -DINPUT_opengl=no
+    -DFEATURE_vulkan=OFF -DFEATURE_direct2d1_1=OFF
+    -DFEATURE_jpeg=OFF -DFEATURE_gif=OFF -DFEATURE_ico=OFF
+    -DFEATURE_pdf=OFF -DFEATURE_textodfwriter=OFF -DFEATURE_textmarkdownreader=OFF
+    -DFEATURE_textmarkdownwriter=OFF -DFEATURE_undocommand=OFF -DFEATURE_movie=OFF
+    -DFEATURE_graphicsview=OFF -DFEATURE_graphicseffect=OFF -DFEATURE_style_fusion=OFF
+    -DFEATURE_style_stylesheet=OFF -DFEATURE_calendarwidget=OFF -DFEATURE_datetimeedit=OFF
+    -DFEATURE_dial=OFF -DFEATURE_dockwidget=OFF -DFEATURE_fontcombobox=OFF
+    -DFEATURE_keysequenceedit=OFF -DFEATURE_lcdnumber=OFF -DFEATURE_mdiarea=OFF
+    -DFEATURE_splashscreen=OFF -DFEATURE_splitter=OFF -DFEATURE_textbrowser=OFF
+    -DFEATURE_toolbox=OFF -DFEATURE_commandlinkbutton=OFF -DFEATURE_colordialog=OFF
+    -DFEATURE_errormessage=OFF -DFEATURE_filedialog=OFF -DFEATURE_fontdialog=OFF
+    -DFEATURE_progressdialog=OFF -DFEATURE_wizard=OFF
+    -DFEATURE_columnview=OFF -DFEATURE_datawidgetmapper=OFF -DFEATURE_undoview=OFF
+    -DFEATURE_listwidget=OFF -DFEATURE_tablewidget=OFF)
+# The libraries, platform plugin and style that the programs and tests load.
+targets=(Core Gui Widgets Test EntryPointImplementation QWindowsIntegrationPlugin
+    QWindowsVistaStylePlugin)
 
 debian_version=$(dpkg-query -W -f='${Version}' qt6-base-dev)
-version=${debian_version%%+*}
+setup=$(printf '%s\n' "${options[@]}" "${targets[@]}" | cat - "$toolchain" | sha256sum)
+setup=${setup:0:8}
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/vorkan-mac
-qt=$cache/qt6-mingw-$version
+qt=$cache/qt6-mingw-$debian_version-$setup
 if [[ -f $qt/lib/cmake/Qt6/Qt6Config.cmake ]]; then
     echo "$qt"
     exit 0
@@ -18,11 +47,11 @@ fi
 
 # The build folder outlives a failed or interrupted run, which then goes on from where
 # it stopped; it is removed once Qt is in place.
-work=$cache/.qt6-mingw-$version.build
+work=$cache/.qt6-mingw-$debian_version-$setup.build
 mkdir -p "$work"
-stage=$(mktemp -d "$cache/.qt6-mingw-$version.XXXXXX")
+stage=$(mktemp -d "$cache/.qt6-mingw-$debian_version.XXXXXX")
 trap 'rm -rf "$stage"' EXIT
-echo "Building Qt $version for Windows once, into $qt (about 35 minutes on 2 cores)" >&2
+echo "Building Qt $debian_version for Windows once, into $qt (about 15 minutes on 2 cores)" >&2
 
 # Debian's source from the archive that gave the installed Qt, through a sources list
 # and package lists of this run's own, so the machine's apt setup is left as it was.
@@ -39,18 +68,24 @@ if [[ -z $source_dir ]]; then
     source_dir=$(find "$work" -maxdepth 1 -type d -name 'qt6-base-*' | head -n 1)
 fi
 
-# Debian's trimmed source lacks the tablet (wintab) header. The modules the programs
-# do not use are left out to shorten the build.
-cmake -G Ninja -S "$source_dir" -B "$work/build" \
-    -DCMAKE_TOOLCHAIN_FILE="$repo/cmake/mingw-w64-x86_64.cmake" \
+cmake -G Ninja -S "$source_dir" -B "$work/build" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
     -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt" \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
-    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DFEATURE_pkg_config=OFF \
-    -DFEATURE_tabletevent=OFF -DFEATURE_sql=OFF -DFEATURE_network=OFF -DFEATURE_dbus=OFF \
-    -DFEATURE_printsupport=OFF >&2
+    "${options[@]}" >&2
 # The machine is shared: two jobs at most.
-cmake --build "$work/build" -j 2 >&2
-DESTDIR=$stage cmake --install "$work/build" >&2
+cmake --build "$work/build" -j 2 --target "${targets[@]}" >&2
+# The install rules of the folders that made them, each folder's own only, and of the
+# top folder: Qt's CMake set-up.
+folders=(. src src/{corelib,gui,widgets,testlib,entrypoint} src/3rdparty
+    src/plugins/{platforms/windows,styles/windowsvista})
+for folder in "${folders[@]/#/$work/build/}" "$work"/build/src/3rdparty/*; do
+    rules=$folder/cmake_install.cmake
+    [[ ! -f $rules ]] || DESTDIR=$stage cmake -DCMAKE_INSTALL_LOCAL_ONLY=ON -P "$rules" >&2
+done
+# The top folder also names the support modules of plugins that were not built.
+for module in "$stage$qt"/lib/cmake/*/; do
+    compgen -G "$module*Config.cmake" >/dev/null || rm -r "$module"
+done
 rm -rf "$qt"
 mv "$stage$qt" "$qt"
 rm -rf "$work"

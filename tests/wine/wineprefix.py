@@ -57,10 +57,12 @@ class Wine:
                  "/f", timeout=120)
         subprocess.run(["wineserver", "-w"], env=self.env, timeout=300, check=True)
 
-    def run(self, *args, timeout, cwd=None, extra_env=None):
+    def run(self, *args, timeout, cwd=None, extra_env=None, output=False):
+        """Runs a program of the prefix; with output, its standard output is kept."""
         env = dict(self.env, **(extra_env or {}))
         return subprocess.run(["wine", *args], env=env, cwd=cwd, timeout=timeout,
-                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                              stdout=subprocess.PIPE if output else subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, text=output, errors="replace")
 
     def start(self, *args):
         return subprocess.Popen(["wine", *args], env=self.env, stdout=subprocess.DEVNULL,
