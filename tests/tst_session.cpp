@@ -1,7 +1,6 @@
 // Long randomized user sessions across every window: whatever a user does, nothing
-// crashes, every figure on screen is well formed and reads back as shown, the patient
-// record holds what the last height and weight calculation read, and the list of
-// windows matches what is open.
+// crashes, every figure on screen is well formed and reads back as shown, and the list
+// of windows matches what is open.
 #include "support.h"
 
 #include <QRegularExpression>
@@ -41,7 +40,6 @@ class TestSession : public QObject {
     Q_OBJECT
 
     std::mt19937_64 random_;
-    QList<Single> expectedRecord_; // height and weight as the last calculation read them
 
     int pick(qsizetype count)
     {
@@ -60,22 +58,6 @@ class TestSession : public QObject {
                 found << widget;
         return found.isEmpty() ? nullptr : found[pick(found.size())];
     }
-    // The height and weight fields of imc and surf, and their arrows, step and calculate,
-    // and a calculation stores what the fields show.
-    static bool steps(const QWidget* control)
-    {
-        static const QRegularExpression stepped(u"(taille|poids|UpDownArrows.)$"_s);
-        return control->objectName().contains(stepped);
-    }
-    void calculated(const QWidget* control)
-    {
-        static const QRegularExpression taille(u"taille$"_s), poids(u"poids$"_s);
-        const auto heights = control->window()->findChildren<TextField*>(taille);
-        const auto weights = control->window()->findChildren<TextField*>(poids);
-        if (!heights.isEmpty() && !weights.isEmpty())
-            expectedRecord_ = {Single(Val(heights[0]->text())), Single(Val(weights[0]->text()))};
-    }
-
     void openFromMainWindow()
     {
         QTest::mouseClick(&Window1().control<BevelButton>(u"BevelButton%1"_s.arg(1 + pick(7))),
@@ -86,7 +68,6 @@ class TestSession : public QObject {
         if (Window* window = anyWindow())
             window->Close();
     }
-    // Every key that comes up in a height or weight field calculates.
     void pressAKey()
     {
         static const Qt::Key keys[] = {
@@ -99,8 +80,6 @@ class TestSession : public QObject {
             const Qt::Key key = keys[pick(std::size(keys))];
             QTest::keyClick(target, key,
                             key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
-            if (steps(target))
-                calculated(target);
         }
     }
     // A vertical turn steps a field once, however far; a turn beside it does nothing.
@@ -109,8 +88,6 @@ class TestSession : public QObject {
         if (QWidget* target = anyControl<TextField, UpDownArrows, Slider, PopupMenu>(anyWindow())) {
             const int delta = pick(5) == 0 ? 0 : (pick(2) ? 1 : -1) * (1 + pick(2400));
             wheel(*target, delta, pick(4) == 0 ? delta : 0);
-            if (delta != 0 && steps(target))
-                calculated(target);
         }
     }
     // Buttons, tips' labels and arrows; the pointer then leaves, or stays.
@@ -120,8 +97,6 @@ class TestSession : public QObject {
                 anyControl<BevelButton, PushButton, StaticText, UpDownArrows>(anyWindow())) {
             QTest::mouseClick(target, Qt::LeftButton, {},
                               QPoint(target->width() / 2, pick(2) ? 3 : 21));
-            if (steps(target))
-                calculated(target);
             QEvent leave(QEvent::Leave);
             if (pick(2))
                 QCoreApplication::sendEvent(target, &leave);
@@ -161,10 +136,6 @@ class TestSession : public QObject {
         if (ImplicitWindows::count() != windows.size())
             return u"%1 windows listed, %2 open"_s.arg(ImplicitWindows::count())
                 .arg(windows.size());
-        for (const QStringView name : {Window1::FullName, imc::FullName, surf::FullName,
-                                       pideal::FullName, norton::FullName, cleinsee::FullName})
-            if (Window* listed = ImplicitWindows::find(name); listed && !windows.contains(listed))
-                return name.toString() + u" is listed but not open"_s;
         for (const Window* window : windows)
             for (const QWidget* control : window->findChildren<QWidget*>()) {
                 const auto* label = dynamic_cast<const StaticText*>(control);
@@ -175,8 +146,6 @@ class TestSession : public QObject {
                     if (!dynamic_cast<const class Window1*>(window) && !wellFormed(word))
                         return control->objectName() + u" shows "_s + text;
             }
-        if (!expectedRecord_.isEmpty() && QList{App().taille, App().poids} != expectedRecord_)
-            return u"the record holds %1 cm, %2 kg"_s.arg(App().taille).arg(App().poids);
         return {};
     }
 
@@ -199,14 +168,9 @@ private Q_SLOTS:
         QLocale::setDefault(pick(2) ? QLocale::French : QLocale::C);
         Window1();
         for (quint64 step = 0; step < actions; ++step) {
-            const QList<Window*> before = openWindows();
             const int gesture = often(random_);
             (this->*gestures[gesture])();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            // A window that has just opened ran its first calculation.
-            for (Window* window : openWindows())
-                if (!before.contains(window))
-                    calculated(window);
             if (const QString found = fault(); !found.isEmpty())
                 QFAIL(qPrintable(
                     u"step %1 (gesture %2), seed %3: %4"_s.arg(step).arg(gesture).arg(seed).arg(
