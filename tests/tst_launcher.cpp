@@ -253,8 +253,6 @@ private Q_SLOTS:
         QTest::addColumn<Win>("window");
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("expected"); // name | value | description
-        QTest::newRow("in a group")
-            << Win::imc << u"poidsidealh"_s << u"Poids idéal (kg), Homme|64.7|"_s;
         QTest::newRow("one ampersand")
             << Win::surf << u"StaticText7"_s << u"Surface (m²), Gehan & Gorge|1.83|"_s;
         QTest::newRow("pop-up") << Win::pideal << u"PopupMenu1"_s << u"Sexe|homme|"_s;
