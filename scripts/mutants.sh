@@ -3,33 +3,45 @@
 # whole suite and says which faults it caught: a measure of what the tests are worth, to
 # be taken before and after any cut in them. Not part of CI (about an hour on 2 cores).
 #
-# Usage: scripts/mutants.sh [WORD]   only the faults whose description holds WORD
-#        scripts/mutants.sh --check    only checks that every fault still applies
+# Usage: scripts/mutants.sh [WORD]          only the faults whose description holds WORD
+#        scripts/mutants.sh --which [WORD]  the whole suite for each fault, naming the
+#                                           tests that catch it (slower)
+#        scripts/mutants.sh --check         only checks that every fault still applies
+# VORKAN_MUTANTS_PART=2/3 takes every third fault from the second: parts run in clones of
+# their own at the same time, on a machine with cores to spare.
 # Each fault replaces one piece of text that must stand exactly once in its file; one
 # that no longer does stops the run, so the list cannot silently go stale.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+mode=${1:-}
+[[ $mode == --check || $mode == --which ]] && shift || mode=
 only=${1:-}
 check=false
-if [[ $only == --check ]]; then
-    check=true only=
+if [[ $mode == --check ]]; then
+    check=true
 else
     cmake --preset dev >/dev/null
     cmake --build --preset dev >/dev/null
 fi
 
 caught=() missed=()
+part=${VORKAN_MUTANTS_PART:-1/1} index=0
+stop=(--stop-on-failure)
+[[ $mode == --which ]] && stop=()
+log=$(mktemp)
 saved=$(mktemp)
 current=
 restore() {
     [[ -n $current ]] && cp "$saved" "$current"
     current=
 }
-trap 'restore; rm -f "$saved"' EXIT
+trap 'restore; rm -f "$saved" "$log"' EXIT
 
 mutant() {
     local description=$1 file=$2 from=$3 to=$4
+    index=$((index + 1))
+    (((index - 1) % ${part#*/} == ${part%/*} - 1)) || return 0
     [[ -z $only || $description == *"$only"* ]] || return 0
     cp "$file" "$saved"
     current=$file
@@ -47,12 +59,14 @@ EOF
     elif ! cmake --build --preset dev >/dev/null 2>&1; then
         verdict="does not build"
         missed+=("$description (does not build)")
-    elif ctest --preset dev --stop-on-failure -j2 --timeout 300 >/dev/null 2>&1; then
-        verdict=MISSED
-        missed+=("$description")
-    else
+    elif ! ctest --preset dev "${stop[@]}" -j2 --timeout 300 >"$log" 2>&1; then
         verdict=caught
         caught+=("$description")
+        [[ $mode == --which ]] &&
+            verdict="caught by $(sed -n 's/^[[:space:]]*[0-9][0-9]* - \([^ ]*\) .*/\1/p' "$log" | tr '\n' ' ')"
+    else
+        verdict=MISSED
+        missed+=("$description")
     fi
     restore
     printf '%-8s %s\n' "$verdict" "$description"

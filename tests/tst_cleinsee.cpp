@@ -50,7 +50,6 @@ private Q_SLOTS:
         QTest::newRow("Tab after the 13th") << u"1234567890123\t"_s << u"1234567890123|11|on"_s;
         QTest::newRow("Shift alone is no key") << u"1234567890123^"_s << u"1234567890123||on"_s;
         QTest::newRow("last digit deleted") << u"12\b\b"_s << u"||on"_s;
-        QTest::newRow("Shift alone does not count") << u"12\b\b^"_s << u"||on"_s;
         QTest::newRow("RAZ leaves the button as it was") << u"123\r*"_s << u"||on"_s;
     }
     void keys()

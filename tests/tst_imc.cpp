@@ -105,6 +105,7 @@ private Q_SLOTS:
         QTest::newRow("999 down is not pulled to 250")
             << u"poids"_s << u"999"_s << wheelTowards << u"998"_s;
         QTest::newRow("20 down lands on 50") << u"taille"_s << u"20"_s << keyDown << u"50"_s;
+        QTest::newRow("height held at 250") << u"taille"_s << u"250"_s << keyUp << u"250"_s;
         QTest::newRow("20 up is not lifted to 50") << u"taille"_s << u"20"_s << arrowUp << u"21"_s;
         QTest::newRow("empty reads 0") << u"taille"_s << u""_s << keyUp << u"1"_s;
         QTest::newRow("a big turn is one step") << u"poids"_s << u"80"_s << wheelFar << u"81"_s;

@@ -1,7 +1,10 @@
 // The main window and the menus of every window, and what every window does: controls
-// where its table says, nothing left behind.
+// where its table says, nothing left behind, and what a screen reader is told: each input
+// and result by its visible label and its value, buttons by caption and help, and the
+// keyboard's way through each window.
 #include "support.h"
 
+#include <QAccessible>
 #include <QDate>
 #include <QStyleOption>
 
@@ -12,6 +15,12 @@ static bool focusShows(const QWidget* control)
     option.initFrom(control);
     return control && (option.state & QStyle::State_HasFocus) &&
            (option.state & QStyle::State_KeyboardFocusChange);
+}
+
+static QString told(QWidget& widget, QAccessible::Text kind)
+{
+    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(&widget);
+    return found ? found->text(kind) : u"(no interface)"_s;
 }
 
 class TestLauncher : public WindowTest {
@@ -97,7 +106,7 @@ private Q_SLOTS:
     }
 
     // A figure leaves as shown, decimal mark included: a double-click takes all of it
-    // for Ctrl+C or the menu of a right click.
+    // for Ctrl+C or the menu of a right click, which offers copying alone.
     void figuresCopyAsShown_data()
     {
         QTest::addColumn<Win>("window");
@@ -132,7 +141,9 @@ private Q_SLOTS:
                                       figure.mapToGlobal(QPoint(2, 2)));
             QCoreApplication::sendEvent(&figure, &menuKey);
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            QVERIFY(menu && menu->actions().first()->text() == u"&Copier"_s);
+            QVERIFY(menu && menu->actions().size() == 3);
+            QCOMPARE(menu->actions().first()->text() + menu->actions().last()->text(),
+                     u"&Copier&Tout sélectionner"_s);
             menu->actions().first()->trigger();
             menu->close();
         } else {
@@ -142,22 +153,10 @@ private Q_SLOTS:
         QCOMPARE(shown(open(window), name), before);
     }
 
-    // The menu of a right click speaks French, key names included; a result offers
-    // copying alone.
-    void editMenus_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("field") << u"taille"_s
-                               << u"&Annuler, &Rétablir, , Co&uper, &Copier, C&oller, "
-                                  u"&Supprimer, , &Tout sélectionner"_s;
-        QTest::newRow("index") << u"imct"_s << u"&Copier, , &Tout sélectionner"_s;
-        QTest::newRow("band") << u"imcn"_s << u"&Copier, , &Tout sélectionner"_s;
-    }
+    // The menu of a right click in a field speaks French, key names included.
     void editMenus()
     {
-        QFETCH(QString, name);
-        auto& control = imc().control<QWidget>(name);
+        auto& control = imc().control<QWidget>(u"taille"_s);
         QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(2, 2),
                                 control.mapToGlobal(QPoint(2, 2)));
         QCoreApplication::sendEvent(&control, &click);
@@ -167,7 +166,8 @@ private Q_SLOTS:
         for (const QAction* item : menu->actions())
             items << item->text();
         menu->close();
-        QTEST(items.join(u", "), "expected");
+        QCOMPARE(items.join(u", "), u"&Annuler, &Rétablir, , Co&uper, &Copier, C&oller, "
+                                    u"&Supprimer, , &Tout sélectionner"_s);
         QCOMPARE(
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete).toString(QKeySequence::NativeText),
             u"Ctrl+Maj+Suppr"_s);
@@ -244,6 +244,67 @@ private Q_SLOTS:
                      imc().control<TextField>(u"taille").mapTo(&imc(), QPoint()),
                  QPoint(448 - 23, 0));
         QVERIFY_THROWS_EXCEPTION(NilObjectException, imc().control<TextField>(u"imclab"));
+    }
+
+    // A pop-up is named by its row on Linux and related to its label: its own
+    // accessible name is what the label gives it.
+    void namesAndValues_data()
+    {
+        QTest::addColumn<Win>("window");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("expected"); // name | value | description
+        QTest::newRow("one ampersand")
+            << Win::surf << u"StaticText7"_s << u"Surface (m²), Gehan & Gorge|1.83|"_s;
+        QTest::newRow("pop-up") << Win::pideal << u"PopupMenu1"_s << u"Sexe|homme|"_s;
+        QTest::newRow("button") << Win::cleinsee << u"BevelButton2"_s
+                                << u"Copier||Copier dans le presse papier"_s;
+    }
+    void namesAndValues()
+    {
+        QFETCH(Win, window);
+        QFETCH(QString, control);
+        QWidget& widget = open(window).control<QWidget>(control);
+        const bool popup = qobject_cast<PopupMenu*>(&widget);
+        QTEST(QString((popup ? widget.accessibleName() : told(widget, QAccessible::Name)) + u'|' +
+                      told(widget, QAccessible::Value) + u'|' +
+                      told(widget, QAccessible::Description)),
+              "expected");
+    }
+
+    void aLabelThatChangesRenamesItsControl()
+    {
+        auto& slider = pideal().control<Slider>(u"Slider1");
+        QTest::keyClick(&slider, Qt::Key_PageUp);
+        QCOMPARE(told(slider, QAccessible::Name), u"Taille (cm) : 180"_s);
+    }
+
+    // Tab follows the layout's order, reaches the main window's buttons, and passes
+    // the disabled copy button by. A window is named by its title.
+    void tabGoesRoundInTheLayoutsOrder_data()
+    {
+        QTest::addColumn<Win>("window");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("cleinsee") << Win::cleinsee
+                                  << u"TextField1 TextField2 BevelButton1 cleaide"_s;
+        QTest::newRow("main") << Win::main
+                              << u"BevelButton1 BevelButton2 BevelButton3 BevelButton4 "
+                                 u"BevelButton5 BevelButton6 BevelButton7"_s;
+    }
+    void tabGoesRoundInTheLayoutsOrder()
+    {
+        QFETCH(Win, window);
+        QFETCH(QString, order);
+        Window& opened = open(window);
+        QCOMPARE(told(opened, QAccessible::Name), opened.windowTitle());
+        QVERIFY(QTest::qWaitForWindowActive(&opened));
+        const QStringList names = order.split(u' ');
+        opened.control<QWidget>(names.first()).setFocus(Qt::TabFocusReason);
+        QStringList seen;
+        for (qsizetype i = 0; i <= names.size(); ++i) {
+            seen << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(seen, names + QStringList{names.first()});
     }
 };
 

@@ -58,14 +58,12 @@ private Q_SLOTS:
         store_ = std::make_unique<CalibrationStore>(*settings_);
     }
 
-    // A card's size at a density, the density guessed from the screen, kept believable
-    // and letting the card fit, and how many letters a line holds. Letter sizes are
-    // measured on the drawn chart below.
+    // The density guessed from the screen, kept believable and letting the card fit, and how many
+    // letters a line holds. Letter sizes are measured on the drawn chart below.
     void sizes_data()
     {
         QTest::addColumn<double>("actual");
         QTest::addColumn<double>("expected");
-        QTest::newRow("card height at 4 px/mm") << cardSizePx(4.0).height() << 215.92;
         QTest::newRow("96 dpi scaled twice") << guessPixelsPerMm(96, 2) << 7.5591;
         QTest::newRow("no dpi reported") << guessPixelsPerMm(qQNaN(), 1) << 3.7795;
         QTest::newRow("card wider than the screen") << clampPixelsPerMm(20, 1284) << 15.0;

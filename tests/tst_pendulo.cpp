@@ -130,6 +130,8 @@ private Q_SLOTS:
         at(9000 + 30000);
         at(9000 + 31000);
         QTest::keyClick(&window, Qt::Key_1);
+        QCOMPARE(window.findChildren<QLabel*>()[1]->text(),
+                 u"Compte à rebours de 15 s : 00:15,0"_s);
         QTest::keyClick(&window, Qt::Key_Escape);
         at(200000);
         QCOMPARE(beeps, 1);

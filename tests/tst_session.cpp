@@ -1,7 +1,6 @@
 // Long randomized user sessions across every window: whatever a user does, nothing
-// crashes, every figure on screen is well formed and reads back as shown, the patient
-// record holds what the last height and weight calculation read, and the list of
-// windows matches what is open.
+// crashes, every figure on screen has the locale's decimal mark and no "-0", "nan" or
+// "inf", and the list of windows matches what is open.
 #include "support.h"
 
 #include <QRegularExpression>
@@ -17,31 +16,23 @@ static QList<Window*> openWindows()
     return windows;
 }
 
-// Digits with at most one decimal mark, the locale's, no "-0", reading back through Val
-// as the number shown; "<48" and "48-53" bound a band, "[14]" is a score and "—" a
-// value that is not finite. A word with no digit is no figure.
-static bool wellFormed(const QString& word)
+// The other locale's mark between digits, a negative zero (not the dash of a band), or a
+// value that is not finite.
+static bool wellFormed(const QString& text)
 {
-    static const QRegularExpression numeric(u"\\d|nan|inf"_s,
-                                            QRegularExpression::CaseInsensitiveOption);
-    const auto figureWith = [](QChar mark) {
-        const QString number = u"(-?\\d+(?:%1\\d+)?)"_s.arg(QRegularExpression::escape(mark));
-        return QRegularExpression(u"^(?:<|>|\\[)?%1(?:-%1)?\\]?$"_s.arg(number));
+    const auto faultsWith = [](QStringView mark, QStringView other) {
+        return QRegularExpression(
+            u"\\d\\%2\\d|(?<!\\d)-0(\\%10+)?(?![\\d\\%1])|nan|inf"_s.arg(mark, other),
+            QRegularExpression::CaseInsensitiveOption);
     };
-    static const QRegularExpression point = figureWith(u'.'), comma = figureWith(u',');
-    const auto match = (decimalMark() == u',' ? comma : point).match(word);
-    bool readsBack = match.hasMatch() || !word.contains(numeric);
-    for (const QString& number : match.capturedTexts().mid(1))
-        readsBack = readsBack && Val(number) == QLocale().toDouble(number) &&
-                    (!number.startsWith(u'-') || Val(number) != 0);
-    return readsBack;
+    static const QRegularExpression french = faultsWith(u",", u"."), c = faultsWith(u".", u",");
+    return !(decimalMark() == u',' ? french : c).match(text).hasMatch();
 }
 
 class TestSession : public QObject {
     Q_OBJECT
 
     std::mt19937_64 random_;
-    QList<Single> expectedRecord_; // height and weight as the last calculation read them
 
     int pick(qsizetype count)
     {
@@ -52,82 +43,57 @@ class TestSession : public QObject {
         const QList<Window*> windows = openWindows();
         return windows.isEmpty() ? nullptr : windows[pick(windows.size())];
     }
-    template<class... Kinds> QWidget* anyControl(Window* window)
+    template<class... Kinds> QWidget* anyControl()
     {
+        Window* window = anyWindow();
         QList<QWidget*> found;
         for (QWidget* widget : window ? window->findChildren<QWidget*>() : QList<QWidget*>())
             if ((dynamic_cast<Kinds*>(widget) || ...))
                 found << widget;
         return found.isEmpty() ? nullptr : found[pick(found.size())];
     }
-    // The height and weight fields of imc and surf, and their arrows, step and calculate,
-    // and a calculation stores what the fields show.
-    static bool steps(const QWidget* control)
-    {
-        static const QRegularExpression stepped(u"(taille|poids|UpDownArrows.)$"_s);
-        return control->objectName().contains(stepped);
-    }
-    void calculated(const QWidget* control)
-    {
-        static const QRegularExpression taille(u"taille$"_s), poids(u"poids$"_s);
-        const auto heights = control->window()->findChildren<TextField*>(taille);
-        const auto weights = control->window()->findChildren<TextField*>(poids);
-        if (!heights.isEmpty() && !weights.isEmpty())
-            expectedRecord_ = {Single(Val(heights[0]->text())), Single(Val(weights[0]->text()))};
-    }
 
-    void openFromMainWindow()
+    void openOrClose()
     {
-        QTest::mouseClick(&Window1().control<BevelButton>(u"BevelButton%1"_s.arg(1 + pick(7))),
-                          Qt::LeftButton);
-    }
-    void closeAnyWindow()
-    {
-        if (Window* window = anyWindow())
+        if (Window* window = anyWindow(); window && pick(3) == 0)
             window->Close();
+        else
+            QTest::mouseClick(&Window1().control<BevelButton>(u"BevelButton%1"_s.arg(1 + pick(7))),
+                              Qt::LeftButton);
     }
-    // Every key that comes up in a height or weight field calculates.
     void pressAKey()
     {
         static const Qt::Key keys[] = {
-            Qt::Key_0,     Qt::Key_1,     Qt::Key_2,      Qt::Key_3,      Qt::Key_4,
-            Qt::Key_5,     Qt::Key_6,     Qt::Key_7,      Qt::Key_8,      Qt::Key_9,
-            Qt::Key_A,     Qt::Key_Minus, Qt::Key_Comma,  Qt::Key_Delete, Qt::Key_Backspace,
-            Qt::Key_Enter, Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,   Qt::Key_Return,
-            Qt::Key_Tab,   Qt::Key_Shift, Qt::Key_PageUp, Qt::Key_End,    Qt::Key_Escape};
-        if (QWidget* target = anyControl<TextField, Slider, PopupMenu>(anyWindow())) {
+            Qt::Key_0,     Qt::Key_1,      Qt::Key_5,      Qt::Key_9,         Qt::Key_A,
+            Qt::Key_Minus, Qt::Key_Comma,  Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Enter,
+            Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,   Qt::Key_Return,    Qt::Key_Tab,
+            Qt::Key_Shift, Qt::Key_PageUp, Qt::Key_End,    Qt::Key_Escape};
+        if (QWidget* target = anyControl<TextField, Slider, PopupMenu>()) {
             const Qt::Key key = keys[pick(std::size(keys))];
             QTest::keyClick(target, key,
                             key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
-            if (steps(target))
-                calculated(target);
         }
     }
-    // A vertical turn steps a field once, however far; a turn beside it does nothing.
+    // Any turn, however far, or beside the control.
     void turnTheWheel()
     {
-        if (QWidget* target = anyControl<TextField, UpDownArrows, Slider, PopupMenu>(anyWindow())) {
+        if (QWidget* target = anyControl<TextField, UpDownArrows, Slider, PopupMenu>()) {
             const int delta = pick(5) == 0 ? 0 : (pick(2) ? 1 : -1) * (1 + pick(2400));
             wheel(*target, delta, pick(4) == 0 ? delta : 0);
-            if (delta != 0 && steps(target))
-                calculated(target);
         }
     }
     // Buttons, tips' labels and arrows; the pointer then leaves, or stays.
     void click()
     {
-        if (QWidget* target =
-                anyControl<BevelButton, PushButton, StaticText, UpDownArrows>(anyWindow())) {
+        if (QWidget* target = anyControl<BevelButton, PushButton, StaticText, UpDownArrows>()) {
             QTest::mouseClick(target, Qt::LeftButton, {},
                               QPoint(target->width() / 2, pick(2) ? 3 : 21));
-            if (steps(target))
-                calculated(target);
             QEvent leave(QEvent::Leave);
             if (pick(2))
                 QCoreApplication::sendEvent(target, &leave);
         }
     }
-    // The Infos box waits for the user: it is closed as soon as it shows.
+    // Any command but Quitter; the Infos box is closed as soon as it shows.
     void useAMenu()
     {
         QList<QAction*> commands;
@@ -144,11 +110,10 @@ class TestSession : public QObject {
             commands[pick(commands.size())]->trigger();
         QCoreApplication::processEvents();
     }
-    // The locale may change while no window is open.
+    // Quitter, then a new start, maybe in the other locale.
     void quitAndStartAgain()
     {
-        if (Window* window = anyWindow())
-            window->menuItem(u"FileQuit").trigger();
+        Window1().menuItem(u"FileQuit").trigger();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(openWindows().isEmpty());
         QLocale::setDefault(pick(2) ? QLocale::French : QLocale::C);
@@ -161,52 +126,35 @@ class TestSession : public QObject {
         if (ImplicitWindows::count() != windows.size())
             return u"%1 windows listed, %2 open"_s.arg(ImplicitWindows::count())
                 .arg(windows.size());
-        for (const QStringView name : {Window1::FullName, imc::FullName, surf::FullName,
-                                       pideal::FullName, norton::FullName, cleinsee::FullName})
-            if (Window* listed = ImplicitWindows::find(name); listed && !windows.contains(listed))
-                return name.toString() + u" is listed but not open"_s;
         for (const Window* window : windows)
             for (const QWidget* control : window->findChildren<QWidget*>()) {
                 const auto* label = dynamic_cast<const StaticText*>(control);
                 const auto* field = dynamic_cast<const TextField*>(control);
                 const QString text = label ? label->text() : field ? field->text() : QString();
-                // The main window's date is no figure.
-                for (const QString& word : text.split(u' ', Qt::SkipEmptyParts))
-                    if (!dynamic_cast<const class Window1*>(window) && !wellFormed(word))
-                        return control->objectName() + u" shows "_s + text;
+                if (!wellFormed(text))
+                    return control->objectName() + u" shows "_s + text;
             }
-        if (!expectedRecord_.isEmpty() && QList{App().taille, App().poids} != expectedRecord_)
-            return u"the record holds %1 cm, %2 kg"_s.arg(App().taille).arg(App().poids);
         return {};
     }
 
 private Q_SLOTS:
     void randomSession()
     {
-        const quint64 seed = qEnvironmentVariableIsSet("VORKAN_SEED")
-                                 ? qEnvironmentVariable("VORKAN_SEED").toULongLong()
-                                 : std::random_device{}();
-        const quint64 actions = qEnvironmentVariable("VORKAN_ACTIONS", u"20000"_s).toULongLong();
+        quint64 seed = qEnvironmentVariable("VORKAN_SEED").toULongLong();
+        seed = seed ? seed : std::random_device{}();
         random_.seed(seed);
-        qInfo("seed %llu, %llu actions (replay: VORKAN_SEED=%llu VORKAN_ACTIONS=%llu)", seed,
-              actions, seed, actions);
+        const quint64 actions = qEnvironmentVariable("VORKAN_ACTIONS", u"20000"_s).toULongLong();
         using Action = void (TestSession::*)();
-        const Action gestures[] = {
-            &TestSession::openFromMainWindow, &TestSession::closeAnyWindow, &TestSession::pressAKey,
-            &TestSession::turnTheWheel,       &TestSession::click,          &TestSession::useAMenu,
-            &TestSession::quitAndStartAgain};
-        std::discrete_distribution<int> often{8, 4, 40, 16, 16, 5, 1};
+        const Action gestures[] = {&TestSession::openOrClose,  &TestSession::pressAKey,
+                                   &TestSession::turnTheWheel, &TestSession::click,
+                                   &TestSession::useAMenu,     &TestSession::quitAndStartAgain};
+        std::discrete_distribution<int> often{12, 40, 16, 16, 5, 1};
         QLocale::setDefault(pick(2) ? QLocale::French : QLocale::C);
         Window1();
         for (quint64 step = 0; step < actions; ++step) {
-            const QList<Window*> before = openWindows();
             const int gesture = often(random_);
             (this->*gestures[gesture])();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            // A window that has just opened ran its first calculation.
-            for (Window* window : openWindows())
-                if (!before.contains(window))
-                    calculated(window);
             if (const QString found = fault(); !found.isEmpty())
                 QFAIL(qPrintable(
                     u"step %1 (gesture %2), seed %3: %4"_s.arg(step).arg(gesture).arg(seed).arg(

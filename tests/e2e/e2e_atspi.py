@@ -39,6 +39,8 @@ def reads(session, pyatspi, binary, lang, index, after):
     session.keys(session.wait_for_window("IMC"), "ctrl+a", "1", "8", "0")
     poll(f"{lang}: the index {after}", lambda: text("IMC (kg/m²)") == after, timeout=10)
     assert text("Taille (cm)") == "180", f"the height reads {text('Taille (cm)')!r}"
+    # A result in a group is named by the group and its own label.
+    assert named(frame("IMC"), "Poids idéal (kg), Homme"), "no result named by its group"
 
 
 def main(binary):
