@@ -69,12 +69,12 @@ public:
         client->setFixedSize(445, 202);
         column->addWidget(client);
         new StatusBar(client);
-        for (const Button& spec : buttons) {
-            auto* button = new QPushButton(QString::fromUtf16(spec.text), client);
-            button->setGeometry(spec.geometry);
+        for (const Button& entry : buttons) {
+            auto* button = new QPushButton(QString::fromUtf16(entry.text), client);
+            button->setGeometry(entry.geometry);
             button->setFocusPolicy(Qt::TabFocus);
-            if (spec.tip)
-                button->setToolTip(QString::fromUtf16(spec.tip));
+            if (entry.tip)
+                button->setToolTip(QString::fromUtf16(entry.tip));
         }
         const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
         move(area.center() - QPoint(445 / 2, 202 / 2));
