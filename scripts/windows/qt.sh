@@ -66,7 +66,7 @@ work=$cache/.qt6-mingw-$debian_version-$setup.build
 mkdir -p "$work"
 stage=$(mktemp -d "$cache/.qt6-mingw-$debian_version.XXXXXX")
 trap 'rm -rf "$stage"' EXIT
-echo "Building Qt $debian_version for Windows once, into $qt (about 20 minutes on 2 cores)" >&2
+echo "Building Qt $debian_version for Windows once, into $qt (about 24 minutes on 2 cores)" >&2
 
 # Debian's source from the archive that gave the installed Qt, through a sources list
 # and package lists of this run's own, so the machine's apt setup is left as it was.
