@@ -20,7 +20,8 @@ qt=$(scripts/windows/qt.sh)
 
 step "Cross-building the programs and their tests"
 # With debug information, which the installer keeps apart from the programs.
-cmake --preset windows -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_CXX_FLAGS=-g >/dev/null
+# Afresh: the folder may remember another Qt.
+cmake --preset windows --fresh -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_CXX_FLAGS=-g >/dev/null
 cmake --build --preset windows
 
 step "Libraries beside the programs and the tests"
