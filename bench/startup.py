@@ -17,7 +17,7 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "scripts"))
 from xsession import XSession  # noqa: E402
 from Xlib import X  # noqa: E402
 

@@ -13,8 +13,7 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
-from xsession import XSession  # noqa: E402
+from xsession import XSession
 
 
 def main(*args):

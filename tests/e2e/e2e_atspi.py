@@ -6,7 +6,8 @@ import subprocess
 import sys
 import time
 
-from xsession import XSession
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "scripts"))
+from xsession import XSession  # noqa: E402
 
 
 def poll(what, find, timeout=20):

@@ -1,12 +1,14 @@
 """The real program and the companions its buttons start, under Xvfb, driven with the
 mouse and keyboard: windows, clipboard, keys and ends as the user sees them."""
 
+import os
 import subprocess
 import sys
 import tempfile
 import time
 
-from xsession import XSession, settle
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "..", "scripts"))
+from xsession import XSession, settle  # noqa: E402
 
 MAIN_HEIGHT, CLEINSEE_HEIGHT = 202, 117  # client areas, below the menus
 

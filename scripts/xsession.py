@@ -1,4 +1,5 @@
-"""A private X display for driving the real program as a user does."""
+"""A private X display for driving the real program as a user does: the end-to-end
+tests, the start-up benchmark and the README's pictures share it."""
 
 import os
 import subprocess
