@@ -29,20 +29,8 @@ class Wine:
         env.update(
             WINEPREFIX=str(self.prefix), WINEARCH="win64", WINEDEBUG="-all",
             # No .NET or HTML engine to install, no menu entries on this machine's desktop.
-            WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d",
-            # The suites' own environment, as CTest gives it.
-            LANG="C.UTF-8",
-            # Windows' own platform plugin; as an option it would stop the suites that
-            # run without a display.
-            QT_QPA_PLATFORM="windows")
+            WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d", LANG="C.UTF-8")
         self.env = env
-        self.locales = build / "locale"
-
-    def as_french_user(self):
-        """From now on, programs start for a user whose Windows locale is French."""
-        self.stop()
-        self.env.update(LANG="fr_FR.UTF-8", LOCPATH=str(french_locale(self.locales)),
-                        VORKAN_SYSTEM_LOCALE="fr_FR")
 
     def drive_c(self):
         return self.prefix / "drive_c"
