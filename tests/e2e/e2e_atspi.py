@@ -40,8 +40,16 @@ def reads(session, pyatspi, binary, lang, index, after):
     session.keys(session.wait_for_window("IMC"), "ctrl+a", "1", "8", "0")
     poll(f"{lang}: the index {after}", lambda: text("IMC (kg/m²)") == after, timeout=10)
     assert text("Taille (cm)") == "180", f"the height reads {text('Taille (cm)')!r}"
-    # A result in a group is named by the group and its own label.
+    # A result in a group is named by the group and its own label; a label's ampersand
+    # is one; a control is named by its label as it reads now (the height the IMC left).
     assert named(frame("IMC"), "Poids idéal (kg), Homme"), "no result named by its group"
+    for button, title, name in [("Surface corporelle", "Surface corporelle",
+                                 "Surface (m²), Gehan & Gorge"),
+                                ("Poids idéal", "Poids idéal", "Taille (cm) : 180"),
+                                ("Clé insee", "Cle insee", "Copier")]:
+        named(frame("Vorkan MAC"), button).queryAction().doAction(0)
+        found = poll(f"{title}: {name}", lambda: named(frame(title), name))
+    assert found.description == "Copier dans le presse papier", found.description
 
 
 def main(binary):
