@@ -70,15 +70,6 @@ private Q_SLOTS:
         QTEST(shown(open(window), names), "expected");
     }
 
-    // Were "18,5" read back as 18, the class would be "maigreur".
-    void readsBackWhatItShowsUnderAFrenchLocale()
-    {
-        QLocale::setDefault(QLocale::French);
-        typeInto(field(imc(), u"taille"_s), u"180"_s);
-        typeInto(field(imc(), u"poids"_s), u"60"_s);
-        QCOMPARE(shown(imc(), u"imct imclab poidsidealh"_s), u"18,5 corpulence normale 73,7"_s);
-    }
-
     // Each step is held at its own limit only; both windows pass their own limits.
     void stepping_data()
     {

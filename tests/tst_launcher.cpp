@@ -34,7 +34,8 @@ private Q_SLOTS:
     }
 
     // In French, or as the system reports it (which the other tests replace by their
-    // own): run with VORKAN_SYSTEM_LOCALE=fr_FR on a system set to French.
+    // own): run with VORKAN_SYSTEM_LOCALE=fr_FR on a system set to French. Figures are
+    // read back as they show.
     void showsTodaysDateAndFiguresInFrench()
     {
         const QString system = qEnvironmentVariable("VORKAN_SYSTEM_LOCALE");
@@ -43,6 +44,10 @@ private Q_SLOTS:
         QLocale::setDefault(system.isEmpty() ? QLocale(QLocale::French) : QLocale::system());
         QCOMPARE(shown(Window1(), u"sbdate"_s), QDate::currentDate().toString(u"dd/MM/yyyy"_s));
         QCOMPARE(shown(imc(), u"imct"_s), u"24,2"_s); // 170 cm, 70 kg
+        // Were "18,5" read back as 18, the class would be "maigreur".
+        typeInto(imc().control<TextField>(u"taille"), u"180"_s);
+        typeInto(imc().control<TextField>(u"poids"), u"60"_s);
+        QCOMPARE(shown(imc(), u"imct imclab poidsidealh"_s), u"18,5 corpulence normale 73,7"_s);
     }
 
     // A click brings the one window up, also from minimised; the Close key closes it.

@@ -40,20 +40,6 @@ class TestNorton : public WindowTest {
 
 private Q_SLOTS:
 
-    // Also when the window opens again after a result.
-    void opensBlankEveryTime()
-    {
-        for (int opening = 1; opening <= 2; ++opening) {
-            for (int number = 1; number <= 5; ++number) {
-                QCOMPARE(popup(number).count(), 4);
-                QCOMPARE(popup(number).ListIndex(), -1);
-            }
-            QCOMPARE(result(), QString());
-            chooseAll(lastRows);
-            closeAllWindows();
-        }
-    }
-
     void scores_data()
     {
         QTest::addColumn<QStringList>("rows");
@@ -76,9 +62,9 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Score de Norton : "_s + result());
     }
 
-    // Opened from the keyboard with no row chosen, when the window opens or after a
-    // reset, a list takes its first row on the first Down, and nothing before Return.
-    void keyboardListStartsAtTheFirstRow_data()
+    // The window opens blank, also again after a result. A list opened from the keyboard
+    // with no row chosen takes its first row on the first Down, and nothing before Return.
+    void opensBlankAndAListStartsAtTheFirstRow_data()
     {
         QTest::addColumn<int>("key");
         QTest::addColumn<int>("modifiers");
@@ -86,14 +72,17 @@ private Q_SLOTS:
         QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
         QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier);
     }
-    void keyboardListStartsAtTheFirstRow()
+    void opensBlankAndAListStartsAtTheFirstRow()
     {
         QFETCH(int, key);
         QFETCH(int, modifiers);
         chooseAll(lastRows);
-        norton().OptionsRAZ().trigger();
+        closeAllWindows();
+        QCOMPARE(result(), QString());
         for (int number = 1; number <= 5; ++number) {
             PopupMenu& menu = popup(number);
+            QCOMPARE(menu.count(), 4);
+            QCOMPARE(menu.ListIndex(), -1);
             menu.setFocus();
             QTest::keyClick(&menu, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
             QVERIFY(menu.view()->isVisible());
