@@ -20,7 +20,7 @@ check) packages+=("${packaging[@]}" "${checking[@]}") ;;
 bench) packages+=(valgrind) ;;
 test | windows)
     packages+=("${packaging[@]}" "${checking[@]}" xvfb xauth xdotool xclip python3 python3-xlib
-        desktop-file-utils appstream dbus at-spi2-core python3-pyatspi libmpfr-dev)
+        desktop-file-utils appstream dbus at-spi2-core python3-pyatspi python3-gmpy2)
     ;;&
 windows)
     packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl
