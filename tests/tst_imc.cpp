@@ -53,7 +53,6 @@ private Q_SLOTS:
                                   << u"\u2014 dénutrition <0 0-0 >0 -88.0 \u2014"_s;
         QTest::newRow("no weight")
             << Win::imc << u"170 "_s << u"imct imclab poidsmaigreh"_s << u"0.0 dénutrition 0.0"_s;
-        QTest::newRow("surf") << Win::surf << u"170 70"_s << surfaces.mid(1) << u"1.81 1.83 1.82"_s;
         QTest::newRow("surf, not clamped")
             << Win::surf << u"999 999"_s << surfaces.mid(1) << u"20.22 15.20 16.65"_s;
         QTest::newRow("surf, no height")
@@ -103,7 +102,6 @@ private Q_SLOTS:
         QTest::newRow("sideways does nothing") << u"poids"_s << u"80"_s << wheelSideways << u"80"_s;
         QTest::newRow("other keys do not step") << u"taille"_s << u"170"_s << keyLeft << u"170"_s;
         QTest::newRow("surf, held at 50") << u"surftaille"_s << u"50"_s << arrowDown << u"50"_s;
-        QTest::newRow("surf, held at 30") << u"surfpoids"_s << u"30"_s << keyDown << u"30"_s;
         QTest::newRow("surf, held at 250") << u"surfpoids"_s << u"999"_s << arrowsWheel << u"250"_s;
     }
     void stepping()

@@ -44,9 +44,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("rows");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("all first rows: 20")
-            << QStringList{u"Bonne"_s, u"Bon alerte"_s, u"Ambulant"_s, u"Totale"_s, u"Aucune"_s}
-            << u"Risque minimum - [20]"_s;
         QTest::newRow("14 is still minimum risk") << fourteen << u"Risque minimum - [14]"_s;
         QTest::newRow("13 is high risk")
             << fourteen.mid(0, 4) + QStringList{u"Urinaire"_s} << u"Haut risque - [13]"_s;
