@@ -44,8 +44,6 @@ private Q_SLOTS:
             << Win::imc << u"160 40"_s << index << u"15.6 dénutrition"_s;
         QTest::newRow("halfway ideal weights")
             << Win::imc << u"160 60"_s << u"poidsidealh poidsidealf"_s << u"55.8 51.3"_s;
-        QTest::newRow("negative ideal weights")
-            << Win::imc << u"50 70"_s << u"poidsidealh poidsidealf"_s << u"-43.1 -47.6"_s;
         QTest::newRow("negative lean weights")
             << Win::imc << u"100 250"_s << u"poidsmaigreh poidsmaigref"_s << u"-525.0 -657.5"_s;
         QTest::newRow("height 0") << Win::imc << u"0 70"_s

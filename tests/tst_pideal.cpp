@@ -3,11 +3,6 @@
 // Broca, Lorentz, Perrault, Huet et Godelsk, Lorentz II.
 const auto weights = u" StaticText8 StaticText9 StaticText10 StaticText11 StaticText12"_s;
 
-static Slider& slider(QStringView name)
-{
-    return pideal().control<Slider>(name);
-}
-
 class TestPideal : public WindowTest {
     Q_OBJECT
 
@@ -35,8 +30,8 @@ private Q_SLOTS:
         QFETCH(int, age);
         QFETCH(int, sex);
         pideal().control<PopupMenu>(u"PopupMenu1").setListIndex(sex);
-        slider(u"Slider1").setValue(height);
-        slider(u"Slider2").setValue(age);
+        pideal().control<Slider>(u"Slider1").setValue(height);
+        pideal().control<Slider>(u"Slider2").setValue(age);
         QTEST(shown(pideal(), u"StaticText2"_s + weights), "expected");
     }
 

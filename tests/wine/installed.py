@@ -8,8 +8,6 @@ import subprocess
 import time
 import uuid
 
-from wineprefix import windows_path
-
 MAIN_HEIGHT = 202  # the main window's client area, below its menu bar
 COMPANIONS = [((307, 35), "Échelle visuelle 3 m"), ((307, 78), "Chrono")]
 
@@ -26,6 +24,11 @@ def shortcut(wine):
     found = [menu / "Microsoft" / "Windows" / "Start Menu" / "Programs" / "Vorkan MAC.lnk"
              for menu in menus]
     return next((path for path in found if path.is_file()), found[0])
+
+
+def windows_path(path):
+    """The path as Windows programs in the prefix see it, through the drive Z: for /."""
+    return "Z:" + str(path).replace("/", "\\")
 
 
 UNINSTALL = r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall"
