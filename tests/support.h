@@ -1,5 +1,6 @@
 // What every window test needs: the program's windows and controls, and a user's
-// gestures on them.
+// gestures on them. Tests wait with QTest::qWaitFor, not the QTRY_ macros: Qt 6.8's
+// narrow their timeout to int on the test's own line, which -Wconversion rejects.
 #pragma once
 
 #include "app.h"

@@ -129,7 +129,7 @@ private Q_SLOTS:
         QTest::keyClick(&poids, Qt::Key_Comma);
         QTest::qWait(2500);
         QVERIFY(poids.balloon());
-        QTRY_VERIFY_WITH_TIMEOUT(!poids.balloon(), 10000);
+        QVERIFY(QTest::qWaitFor([&] { return !poids.balloon(); }, 10000));
         QCOMPARE(poids.text(), u"725"_s);
     }
 
