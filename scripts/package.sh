@@ -2,10 +2,18 @@
 # Builds the Debian package the way Debian builds its own (dpkg-buildpackage, debhelper,
 # debian/) and puts it in build/package with its debug symbols, .buildinfo and .changes.
 # Two builds of one commit give bit-identical packages (debian/rules).
+# With --build-depends, in a clean root (scripts/debian-release.sh), it installs only the
+# Build-Depends of debian/control, as Debian's build daemons do, instead of the project's
+# own list.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/deps.sh package
+if [[ ${1:-} == --build-depends ]]; then
+    apt-get update -qq
+    apt-get build-dep -y -qq --no-install-recommends ./ >/dev/null
+else
+    scripts/deps.sh package
+fi
 out=build/package
 rm -rf "$out"
 # Binary packages only, unsigned, on at most two cores; the source tree is left clean.
