@@ -138,6 +138,15 @@ const QLabel* TextField::balloon() const
     return balloon_.shown();
 }
 
+// The focus a window gives as it opens or comes to the front selects the text, as Tab
+// does, so that a new value typed at once replaces the old one.
+void TextField::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason)
+        selectAll();
+}
+
 void TextField::focusOutEvent(QFocusEvent* event)
 {
     balloon_.hide();
