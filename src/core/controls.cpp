@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <cstdlib>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -346,6 +347,11 @@ void PopupMenu::showPopup()
     QComboBox::showPopup();
 }
 
+void PopupMenu::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
 // Qt would choose the first row added to an empty list by itself.
 void PopupMenu::AddRow(const QString& text)
 {
@@ -353,6 +359,25 @@ void PopupMenu::AddRow(const QString& text)
     const int chosen = currentIndex();
     addItem(text);
     setCurrentIndex(chosen);
+}
+
+// Qt moves a slider by several line steps a notch, as many as the desktop scrolls lines.
+void Slider::wheelEvent(QWheelEvent* event)
+{
+    constexpr int notch = 120;
+    const QPoint delta = event->angleDelta();
+    // Qt counts a turn to the right as negative; it moves a slider up, as a turn away does.
+    int turn = delta.y() != 0 ? delta.y() : -delta.x();
+    if (event->inverted())
+        turn = -turn;
+    if ((turn < 0) != (wheelRest_ < 0))
+        wheelRest_ = 0;
+    wheelRest_ += turn;
+    const int notches = wheelRest_ / notch;
+    wheelRest_ -= notches * notch;
+    for (int i = 0; i < std::abs(notches); ++i)
+        triggerAction(notches > 0 ? SliderSingleStepAdd : SliderSingleStepSub);
+    event->accept();
 }
 
 } // namespace vorkan

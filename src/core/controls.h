@@ -155,7 +155,8 @@ private:
 };
 
 // A pop-up list; ListIndex is -1 while no row is chosen, and shows blank. Its Change
-// is currentIndexChanged.
+// is currentIndexChanged. Closed, it lets the wheel pass: scrolling over a window must
+// not change a choice unseen.
 class PopupMenu : public RectControl<QComboBox> {
     Q_OBJECT
 
@@ -168,14 +169,25 @@ public:
     void setListIndex(int index) { setCurrentIndex(index); }
 
     void showPopup() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
 };
 
-// A horizontal slider; its ValueChanged is valueChanged.
+// A horizontal slider; its ValueChanged is valueChanged. A notch of the wheel moves it
+// by its line step, as one key press does.
 class Slider : public RectControl<QSlider> {
     Q_OBJECT
 
 public:
     explicit Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent) {}
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    // Turns smaller than a notch, kept until they add up to one.
+    int wheelRest_ = 0;
 };
 
 class GroupBox : public RectControl<QGroupBox> {
