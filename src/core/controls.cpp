@@ -211,10 +211,11 @@ void StaticText::setText(const QString& caption)
     caption_ = caption;
     QString shown = caption;
     shown.replace(u"&&"_s, u"&"_s);
+    const QString before = QLabel::text();
     QLabel::setText(shown);
     if (labelled_)
         labelled_->setAccessibleName(labelPrefix_ + shown);
-    announceTextChange(*this);
+    announceTextChange(*this, before, shown);
 }
 
 void StaticText::labels(QWidget& control, const QString& prefix)
@@ -334,7 +335,16 @@ void PushButton::focusOutEvent(QFocusEvent* event)
     pressedFromKeyboard_ = false;
 }
 
-PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent) {}
+PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
+{
+    connect(this, &QComboBox::currentTextChanged, this, &PopupMenu::announceRow);
+}
+
+void PopupMenu::announceRow(const QString& row)
+{
+    announceTextChange(*this, announcedRow_, row);
+    announcedRow_ = row;
+}
 
 // A list with no row chosen opens with none under the keyboard either, so that the
 // first Down lands on the first row. Qt's list would take its first row as the place

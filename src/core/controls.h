@@ -172,6 +172,11 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void announceRow(const QString& row);
+
+    QString announcedRow_;
 };
 
 // A horizontal slider; its ValueChanged is valueChanged. A notch of the wheel moves it
