@@ -99,6 +99,10 @@ public:
     // and whenever the caption changes.
     void labels(QWidget& control, const QString& prefix);
 
+    // A figure and the label that names it read as one line: the text that stands higher
+    // moves down onto the other's baseline, the boxes staying where they are.
+    void shareBaseline(StaticText& other);
+
     MouseDownHandler MouseDown;
 
 Q_SIGNALS:
@@ -113,8 +117,12 @@ protected:
 
 private:
     void fitFont();
+    void placeText();
+    // Where the text's baseline lies in the window, in the layout's font.
+    int baselineInWindow() const;
 
     QString caption_;
+    int baselineDrop_ = 0;
     std::optional<QFont> layoutFont_;
     QPointer<QWidget> labelled_;
     QString labelPrefix_;
