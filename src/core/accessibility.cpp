@@ -3,6 +3,7 @@
 #include "controls.h"
 #include "window.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 
 #include <algorithm>
@@ -89,6 +90,23 @@ public:
         : ShownValueAccessible(popup, QAccessible::ComboBox)
     {}
 
+    // The list of rows, as Qt's own list gives it, for tools that walk the rows.
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(popup().view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child && child->object() == popup().view() ? 0 : -1;
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ShownValueAccessible::state();
+        state.expandable = true;
+        state.expanded = popup().view()->isVisible();
+        return state;
+    }
     QStringList actionNames() const override
     {
         return ShownValueAccessible::actionNames() << showMenuAction();
