@@ -53,46 +53,36 @@ private Q_SLOTS:
         QTEST(shown(pideal(), u"StaticText1"_s + weights), "expected");
     }
 
-    // A notch over a closed list chooses nothing, in either direction, chosen or blank;
-    // a notch moves a slider by its line step, as a key does, half notches adding up.
+    // A notch over a closed list chooses nothing, either way, chosen or blank; a notch
+    // moves a slider by its line step, as a key does, half notches adding up.
     void theWheelChoosesNothing_data()
     {
         QTest::addColumn<Win>("window");
         QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("row"); // a list's row before the turns, -1 for none
+        QTest::addColumn<int>("start"); // the list's row (-1 for none) or the slider's value
         QTest::addColumn<QList<int>>("turns");
         QTest::addColumn<int>("moved");
-        for (int number = 1; number <= 5; ++number) {
-            const QString popup = u"PopupMenu%1"_s.arg(number);
-            QTest::addRow("Norton %d, chosen", number)
-                << Win::norton << popup << 1 << QList{120} << 0;
-            QTest::addRow("Norton %d, blank", number)
-                << Win::norton << popup << -1 << QList{-120} << 0;
-        }
+        for (int number = 1, row = 1; number <= 5; ++number, row = -row) // chosen, blank...
+            QTest::addRow("Norton %d from row %d", number, row)
+                << Win::norton << u"PopupMenu%1"_s.arg(number) << row << QList{row * 120} << 0;
         QTest::newRow("sex") << Win::pideal << u"PopupMenu1"_s << 0 << QList{-120} << 0;
-        QTest::newRow("height, away") << Win::pideal << u"Slider1"_s << 0 << QList{120} << 5;
-        QTest::newRow("height, towards") << Win::pideal << u"Slider1"_s << 0 << QList{-120} << -5;
+        QTest::newRow("height, away") << Win::pideal << u"Slider1"_s << 160 << QList{120} << 5;
+        QTest::newRow("height, towards") << Win::pideal << u"Slider1"_s << 160 << QList{-120} << -5;
         QTest::newRow("age, half notches")
-            << Win::pideal << u"Slider2"_s << 0 << QList{60, 60, 60} << 5;
+            << Win::pideal << u"Slider2"_s << 20 << QList{60, 60, 60} << 5;
     }
     void theWheelChoosesNothing()
     {
         QFETCH(Win, window);
         QFETCH(QString, name);
-        QFETCH(int, row);
+        QFETCH(int, start);
         QFETCH(QList<int>, turns);
         auto& control = open(window).control<QWidget>(name);
-        auto* list = qobject_cast<PopupMenu*>(&control);
-        auto* slider = qobject_cast<Slider*>(&control);
-        if (!list && !slider)
-            QFAIL("neither a list nor a slider");
-        if (list)
-            list->setListIndex(row);
-        const auto value = [&] { return list ? list->ListIndex() : slider->value(); };
-        const int before = value();
+        const char* value = qobject_cast<PopupMenu*>(&control) ? "currentIndex" : "value";
+        QVERIFY2(control.setProperty(value, start), "neither a list nor a slider");
         for (int turn : turns)
             wheel(control, turn);
-        QTEST(value() - before, "moved");
+        QTEST(control.property(value).toInt() - start, "moved");
     }
 };
 
