@@ -14,7 +14,9 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace vorkan {
@@ -45,34 +47,60 @@ std::vector<QRect> keptInView(const QWidget& field)
     return rects;
 }
 
-// The places along one axis where a balloon of that length can rest: after the field
-// (below it or right of it), before it, lined up with it, beside each control and
-// against the screen's edges.
-std::vector<int> restingPlaces(Qt::Orientation axis, int length, const QRect& field,
-                               const QRect& screen, const std::vector<QRect>& controls)
+// Where the balloon can rest along one axis, and how far that leaves it from the field.
+struct Place {
+    int at;
+    int off;
+};
+
+// The heights at which a balloon that tall can rest, nearest the field first: below the
+// field, above it, level with it, next to each control and against the screen's edges.
+std::vector<Place> restingTops(int height, const QRect& field, const QRect& screen,
+                               const std::vector<QRect>& controls)
 {
-    const auto start = [axis](const QRect& r) {
-        return axis == Qt::Horizontal ? r.left() : r.top();
-    };
-    const auto end = [axis](const QRect& r) {
-        return axis == Qt::Horizontal ? r.right() : r.bottom();
-    };
-    std::vector<int> places{end(field) + 1 + gap, start(field) - gap - length,
-                            start(field),         end(field) + 1 - length,
-                            start(screen),        end(screen) + 1 - length};
+    std::vector<int> tops{field.bottom() + 1 + gap, field.top() - gap - height, field.top(),
+                          screen.top(), screen.bottom() + 1 - height};
     for (const QRect& control : controls) {
-        places.push_back(end(control) + 1 + gap);
-        places.push_back(start(control) - gap - length);
+        tops.push_back(control.bottom() + 1 + gap);
+        tops.push_back(control.top() - gap - height);
     }
+    std::vector<Place> places;
+    for (const int top : tops)
+        if (top >= screen.top() && top + height - 1 <= screen.bottom())
+            places.push_back(
+                {top, std::max({0, field.top() - (top + height - 1), top - field.bottom()})});
+    std::stable_sort(places.begin(), places.end(),
+                     [](const Place& a, const Place& b) { return a.off < b.off; });
     return places;
 }
 
-// How far a box lies from the field, across and down.
-int distance(const QRect& box, const QRect& field)
+// In that band of the screen, the left edge nearest the field at which the balloon meets
+// no control, nor comes within the gap of one, and how far across from the field it lies.
+std::optional<Place> nearestLeft(const QRect& band, const QRect& field, const QRect& screen,
+                                 const std::vector<QRect>& controls)
 {
-    const int across = std::max({0, field.left() - box.right(), box.left() - field.right()});
-    const int down = std::max({0, field.top() - box.bottom(), box.top() - field.bottom()});
-    return across + down;
+    std::vector<std::pair<int, int>> taken;
+    for (const QRect& control : controls)
+        if (control.top() <= band.bottom() + gap && control.bottom() >= band.top() - gap)
+            taken.emplace_back(control.left() - gap, control.right() + gap);
+    std::sort(taken.begin(), taken.end());
+    std::optional<Place> nearest;
+    const auto within = [&](int from, int to) {
+        if (to < from)
+            return;
+        const int left = std::clamp(field.left(), from, to);
+        const int off =
+            std::max({0, field.left() - (left + band.width() - 1), left - field.right()});
+        if (!nearest || off < nearest->off)
+            nearest = Place{left, off};
+    };
+    int from = screen.left();
+    for (const auto& [start, end] : taken) {
+        within(from, start - band.width());
+        from = std::max(from, end + 1);
+    }
+    within(from, screen.right() + 1 - band.width());
+    return nearest;
 }
 
 // The box moved as little as needed to lie on the screen.
@@ -83,30 +111,28 @@ QRect heldOn(const QRect& screen, QRect box)
     return box;
 }
 
-// The place nearest the field, below it first, where the balloon lies on the screen and
-// covers nothing that must stay in view; below the field when no place is free.
+// The place nearest the field where the balloon lies on the screen and covers nothing
+// that must stay in view; below the field when no place is free. Beside the field counts
+// double, so that below it, then above it, come first.
 QPoint balloonCorner(const QWidget& field, QSize size)
 {
     const QRect rect(field.mapToGlobal(QPoint(0, 0)), field.size());
     const QRect screen =
         field.screen() ? field.screen()->availableGeometry() : availableScreenArea();
     const std::vector<QRect> controls = keptInView(field);
-    const auto isFree = [&](const QRect& box) {
-        return screen.contains(box) &&
-               std::none_of(controls.begin(), controls.end(),
-                            [&box](const QRect& control) { return control.intersects(box); });
-    };
-    const std::vector<int> lefts =
-        restingPlaces(Qt::Horizontal, size.width(), rect, screen, controls);
-    std::optional<QRect> best;
-    for (const int top : restingPlaces(Qt::Vertical, size.height(), rect, screen, controls))
-        for (const int left : lefts) {
-            const QRect box(QPoint(left, top), size);
-            if ((!best || distance(box, rect) < distance(*best, rect)) && isFree(box))
-                best = box;
+    QRect best = heldOn(screen, QRect(rect.bottomLeft() + QPoint(0, 1 + gap), size));
+    int bestDistance = std::numeric_limits<int>::max();
+    for (const Place& top : restingTops(size.height(), rect, screen, controls)) {
+        if (top.off >= bestDistance)
+            break;
+        const QRect band(QPoint(screen.left(), top.at), size);
+        if (const auto left = nearestLeft(band, rect, screen, controls);
+            left && 2 * left->off + top.off < bestDistance) {
+            best.moveTopLeft(QPoint(left->at, top.at));
+            bestDistance = 2 * left->off + top.off;
         }
-    return (best ? *best : heldOn(screen, QRect(rect.bottomLeft() + QPoint(0, 1 + gap), size)))
-        .topLeft();
+    }
+    return best.topLeft();
 }
 
 } // namespace
