@@ -144,15 +144,15 @@ mutant "tips: a letter changed" src/calculators/tips.cpp \
 # What every window does.
 mutant "balloon: gone after half a second" src/core/refusalballoon.h \
     "shownMs = 5000;" "shownMs = 500;"
-mutant "balloon: below the field whatever it covers" src/core/refusalballoon.cpp \
-    "if (box.intersects(control))" "if (false && box.intersects(control))"
+mutant "balloon: over the field whatever it covers" src/core/refusalballoon.cpp \
+    "if (control.top() <= band.bottom() + gap" "if (false && control.top() <= band.bottom() + gap"
 mutant "focus: hidden until the first Tab" src/core/window.cpp \
     $'    setAttribute(Qt::WA_KeyboardFocusChange);\n' ""
 mutant "menus: Escape leaves the focus on the bar" src/core/menus.cpp \
     "menu->installEventFilter(escape);" "(void)escape;"
 mutant "menus: Quitter greyed" src/core/menus.cpp \
     "action->setEnabled(item.quits);" "action->setEnabled(false);"
-mutant "figures: a double-click takes a word" src/core/controls.cpp \
+mutant "figures: a double-click takes a word" src/core/statictext.cpp \
     $'    if (textInteractionFlags() & Qt::TextSelectableByMouse)\n        setSelection' \
     $'    if (false)\n        setSelection'
 mutant "windows: a tall window's title bar above the screen" src/core/window.cpp \

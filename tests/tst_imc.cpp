@@ -133,9 +133,10 @@ private Q_SLOTS:
         QCOMPARE(poids.text(), u"725"_s);
     }
 
-    // The balloon leaves in view the field and every control of its window, the "?"
-    // below the weight among them, and goes as soon as the field loses the focus.
-    void aRefusalCoversNoControl_data()
+    // The balloon lies on the screen and leaves in view the field and every label, button
+    // and field of its window, the "?" below the weight and the labels beside the fields
+    // among them, and goes as soon as the field loses the focus.
+    void aRefusalCoversNothing_data()
     {
         QTest::addColumn<Win>("window");
         QTest::addColumn<QString>("name");
@@ -144,12 +145,13 @@ private Q_SLOTS:
         QTest::newRow("imc, weight") << Win::imc << u"poids"_s << u"72,5"_s << u"725"_s;
         QTest::newRow("imc, height") << Win::imc << u"taille"_s << u"1m80"_s << u"180"_s;
         QTest::newRow("surf, weight") << Win::surf << u"surfpoids"_s << u"7.5"_s << u"75"_s;
+        QTest::newRow("surf, height") << Win::surf << u"surftaille"_s << u"1m80"_s << u"180"_s;
         QTest::newRow("cleinsee, letter")
             << Win::cleinsee << u"TextField1"_s << u"2A00"_s << u"200"_s;
         QTest::newRow("cleinsee, 14th digit")
             << Win::cleinsee << u"TextField1"_s << u"12345678901234"_s << u"1234567890123"_s;
     }
-    void aRefusalCoversNoControl()
+    void aRefusalCoversNothing()
     {
         QFETCH(Win, window);
         QFETCH(QString, name);
@@ -160,17 +162,42 @@ private Q_SLOTS:
         QTEST(typedInto.text(), "expected");
         QVERIFY(typedInto.balloon());
         const QRect balloon = typedInto.balloon()->geometry();
+        QVERIFY(availableScreenArea().contains(balloon));
         for (const QWidget* control : open(window).findChildren<QWidget*>()) {
-            const bool workedWith =
-                control->isVisible() && (qobject_cast<const QLineEdit*>(control) ||
-                                         qobject_cast<const QAbstractButton*>(control) ||
-                                         qobject_cast<const UpDownArrows*>(control));
+            const bool keptInView =
+                control->isVisible() && !control->isWindow() &&
+                (qobject_cast<const QLabel*>(control) || qobject_cast<const QLineEdit*>(control) ||
+                 qobject_cast<const QAbstractButton*>(control) ||
+                 qobject_cast<const UpDownArrows*>(control));
             const QRect onScreen(control->mapToGlobal(QPoint()), control->size());
-            QVERIFY2(!workedWith || !balloon.intersects(onScreen),
+            QVERIFY2(!keptInView || !balloon.intersects(onScreen),
                      qPrintable(control->objectName()));
         }
         QTest::keyClick(&typedInto, Qt::Key_Tab);
         QVERIFY(!typedInto.balloon());
+    }
+
+    // The focus a window gives as it opens, and as it comes back to the front, selects
+    // the height as Tab does: what is typed at once replaces it.
+    void typingAtOnceReplaces_data()
+    {
+        QTest::addColumn<Win>("window");
+        QTest::newRow("imc") << Win::imc;
+        QTest::newRow("surf") << Win::surf;
+    }
+    void typingAtOnceReplaces()
+    {
+        QFETCH(Win, window);
+        const QString height = window == Win::surf ? u"surftaille"_s : u"taille"_s;
+        for (const QString& typed : {u"180"_s, u"175"_s}) {
+            QVERIFY(QTest::qWaitForWindowActive(&open(window)));
+            QTest::keyClicks(QApplication::focusWidget(), typed);
+            QCOMPARE(shown(open(window), height), typed);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+            Window1().activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&Window1()));
+            open(window).activateWindow();
+        }
     }
 
     void arrowsRepeatWhileHeld()

@@ -96,8 +96,7 @@ private Q_SLOTS:
         QTest::newRow("band") << Win::imc << u"imcsu"_s << false << false;
         QTest::newRow("lean weight, French") << Win::imc << u"poidsmaigref"_s << true << true;
         QTest::newRow("surface, French") << Win::surf << u"StaticText6"_s << true << false;
-        QTest::newRow("Norton line") << Win::norton << u"StaticText1"_s << false << false;
-        QTest::newRow("Norton line, French") << Win::norton << u"StaticText1"_s << true << true;
+        QTest::newRow("Norton line") << Win::norton << u"StaticText1"_s << false << true;
     }
     void figuresCopyAsShown()
     {

@@ -92,16 +92,20 @@ private Q_SLOTS:
     }
 
     // The current line, then the smaller ones below, then the larger above, as long as
-    // they fit; centred, never over the labels.
+    // they fit; centred, never over the labels. The foot tells of smaller lines left out.
     void chartLines_data()
     {
         QTest::addColumn<int>("tenths");
         QTest::addColumn<bool>("whole");
         QTest::addColumn<double>("height");
         QTest::addColumn<QList<int>>("shown");
-        QTest::newRow("smaller ones first") << 3 << true << 600.0 << QList{3, 4, 5, 6, 7, 8, 9, 10};
-        QTest::newRow("then larger ones") << 10 << true << 300.0 << QList{5, 6, 7, 8, 9, 10};
-        QTest::newRow("one line") << 4 << false << 1000.0 << QList{4};
+        QTest::addColumn<QString>("foot");
+        const QString none;
+        QTest::newRow("all below") << 3 << true << 600.0 << QList{3, 4, 5, 6, 7, 8, 9, 10} << none;
+        QTest::newRow("then larger") << 10 << true << 300.0 << QList{5, 6, 7, 8, 9, 10} << none;
+        QTest::newRow("smaller left out")
+            << 1 << true << 600.0 << QList{1, 2, 3, 4} << u"▼ 5/10 à 10/10 plus bas"_s;
+        QTest::newRow("one line") << 4 << false << 1000.0 << QList{4} << none;
     }
     void chartLines()
     {
@@ -110,8 +114,9 @@ private Q_SLOTS:
         QFETCH(double, height);
         QList<int> shown;
         double bottom = 0;
-        for (const ChartLine& line :
-             layoutChart({tenths, whole, false}, {1600, height}, 4.0, 100)) {
+        const QList<ChartLine> lines =
+            layoutChart({tenths, whole, false}, {1600, height}, 4.0, 100);
+        for (const ChartLine& line : lines) {
             shown << line.tenths;
             QVERIFY2(line.cells.first().top() >= bottom || bottom == 0, "lines overlap");
             QCOMPARE(line.cells.first().left() + line.cells.last().right(), 1600.0);
@@ -119,6 +124,7 @@ private Q_SLOTS:
             bottom = line.cells.first().bottom();
         }
         QTEST(shown, "shown");
+        QTEST(moreLinesBelow({tenths, whole, false}, lines), "foot");
         QVERIFY(bottom <= height || shown.size() == 1);
     }
 

@@ -75,16 +75,16 @@ private Q_SLOTS:
         QTest::newRow("an hour") << times(3599999) << u"59:59,9 1:00:00,0"_s;
         QTest::newRow("negative") << times(-5) << u"00:00,0 00:00,0"_s;
         QTest::newRow("one tap") << rateAfter({0})
-                                 << u"Battements par minute : \u2026 (1 battement)"_s;
+                                 << u"Battements par minute : \u2026 (1\u00a0battement)"_s;
         QTest::newRow("longest pause")
-            << rateAfter({0, 3000}) << u"Battements par minute : 20 (2 battements)"_s;
+            << rateAfter({0, 3000}) << u"Battements par minute : 20 (2\u00a0battements)"_s;
         QTest::newRow("a new series") << rateAfter({0, 500, 1000, 4001, 5001})
-                                      << u"Battements par minute : 60 (2 battements)"_s;
+                                      << u"Battements par minute : 60 (2\u00a0battements)"_s;
         QTest::newRow("clock going back")
-            << rateAfter({1000, 500, 1500}) << u"Battements par minute : 60 (2 battements)"_s;
+            << rateAfter({1000, 500, 1500}) << u"Battements par minute : 60 (2\u00a0battements)"_s;
         QTest::newRow("the last eight")
             << rateAfter({0, 1000, 2000, 2500, 3000, 3500, 4000, 4500, 5000, 5500, 6000})
-            << u"Battements par minute : 120 (11 battements)"_s;
+            << u"Battements par minute : 120 (11\u00a0battements)"_s;
     }
     void shown()
     {
@@ -95,7 +95,7 @@ private Q_SLOTS:
     // Space starts and stops even on a focused button, which it would click, and the
     // list of laps leaves the letters to the window; a countdown beeps once at its end,
     // and not at all when cancelled; B taps the beat. Every control has a name for
-    // screen readers.
+    // screen readers. Ctrl+W closes it, as it closes a calculator.
     void keyboardDrivesTheWindow()
     {
         FakeClock clock;
@@ -137,10 +137,13 @@ private Q_SLOTS:
             clock.now = ms;
             QTest::keyClick(&window, Qt::Key_B);
         }
-        QVERIFY(window.findChildren<QLabel*>().last()->text().endsWith(u": 75 (3 battements)"_s));
+        QVERIFY(
+            window.findChildren<QLabel*>().last()->text().endsWith(u": 75 (3\u00a0battements)"_s));
         for (const QWidget* child : window.findChildren<QWidget*>())
             if (qobject_cast<const QAbstractButton*>(child) || qobject_cast<const QLabel*>(child))
                 QVERIFY2(!child->accessibleName().isEmpty(), child->metaObject()->className());
+        QTest::keyClick(&window, Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!window.isVisible());
     }
 };
 

@@ -52,6 +52,38 @@ private Q_SLOTS:
         App().taille = taille;
         QTEST(shown(pideal(), u"StaticText1"_s + weights), "expected");
     }
+
+    // A notch over a closed list chooses nothing, either way, chosen or blank; a notch
+    // moves a slider by its line step, as a key does, half notches adding up.
+    void theWheelChoosesNothing_data()
+    {
+        QTest::addColumn<Win>("window");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("start"); // the list's row (-1 for none) or the slider's value
+        QTest::addColumn<QList<int>>("turns");
+        QTest::addColumn<int>("moved");
+        for (int number = 1, row = 1; number <= 5; ++number, row = -row) // chosen, blank...
+            QTest::addRow("Norton %d from row %d", number, row)
+                << Win::norton << u"PopupMenu%1"_s.arg(number) << row << QList{row * 120} << 0;
+        QTest::newRow("sex") << Win::pideal << u"PopupMenu1"_s << 0 << QList{-120} << 0;
+        QTest::newRow("height, away") << Win::pideal << u"Slider1"_s << 160 << QList{120} << 5;
+        QTest::newRow("height, towards") << Win::pideal << u"Slider1"_s << 160 << QList{-120} << -5;
+        QTest::newRow("age, half notches")
+            << Win::pideal << u"Slider2"_s << 20 << QList{60, 60, 60} << 5;
+    }
+    void theWheelChoosesNothing()
+    {
+        QFETCH(Win, window);
+        QFETCH(QString, name);
+        QFETCH(int, start);
+        QFETCH(QList<int>, turns);
+        auto& control = open(window).control<QWidget>(name);
+        const char* value = qobject_cast<PopupMenu*>(&control) ? "currentIndex" : "value";
+        QVERIFY2(control.setProperty(value, start), "neither a list nor a slider");
+        for (int turn : turns)
+            wheel(control, turn);
+        QTEST(control.property(value).toInt() - start, "moved");
+    }
 };
 
 VORKAN_TEST_MAIN(TestPideal)

@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <cstdlib>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -138,6 +139,15 @@ const QLabel* TextField::balloon() const
     return balloon_.shown();
 }
 
+// The focus a window gives as it opens or comes to the front selects the text, as Tab
+// does, so that a new value typed at once replaces the old one.
+void TextField::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason)
+        selectAll();
+}
+
 void TextField::focusOutEvent(QFocusEvent* event)
 {
     balloon_.hide();
@@ -191,94 +201,6 @@ void TextField::wheelEvent(QWheelEvent* event)
     QLineEdit::wheelEvent(event);
 }
 
-StaticText::StaticText(QWidget* parent) : RectControl(parent)
-{
-    setTextFormat(Qt::PlainText);
-}
-
-void StaticText::setText(const QString& caption)
-{
-    caption_ = caption;
-    QString shown = caption;
-    shown.replace(u"&&"_s, u"&"_s);
-    QLabel::setText(shown);
-    if (labelled_)
-        labelled_->setAccessibleName(labelPrefix_ + shown);
-    announceTextChange(*this);
-}
-
-void StaticText::labels(QWidget& control, const QString& prefix)
-{
-    labelled_ = &control;
-    labelPrefix_ = prefix;
-    control.setAccessibleName(prefix + QLabel::text());
-}
-
-void StaticText::setSelectable()
-{
-    setTextInteractionFlags(Qt::TextSelectableByMouse);
-}
-
-void StaticText::paintEvent(QPaintEvent* event)
-{
-    fitFont();
-    QLabel::paintEvent(event);
-}
-
-// Measured when painted rather than when written, so that a calculation that writes
-// many results pays nothing for it. A font that changes asks for one more paint.
-void StaticText::fitFont()
-{
-    if (!layoutFont_)
-        layoutFont_ = font();
-    const QString shown = QLabel::text();
-    const int room = contentsRect().width();
-    QFont fitted = *layoutFont_;
-    constexpr qreal smallest = 6;
-    while (fitted.pointSizeF() > smallest && QFontMetricsF(fitted).horizontalAdvance(shown) > room)
-        fitted.setPointSizeF(fitted.pointSizeF() - 0.5);
-    if (fitted != font())
-        setFont(fitted);
-}
-
-void StaticText::mousePressEvent(QMouseEvent* event)
-{
-    const QPoint at = event->position().toPoint();
-    if (MouseDown && MouseDown(at.x(), at.y()))
-        return;
-    QLabel::mousePressEvent(event);
-}
-
-// A figure is one thing to copy: a double-click takes all of it, signs and marks too.
-void StaticText::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (textInteractionFlags() & Qt::TextSelectableByMouse)
-        setSelection(0, static_cast<int>(QLabel::text().size()));
-    else
-        QLabel::mouseDoubleClickEvent(event);
-}
-
-void StaticText::contextMenuEvent(QContextMenuEvent* event)
-{
-    if (!(textInteractionFlags() & Qt::TextSelectableByMouse)) {
-        QLabel::contextMenuEvent(event);
-        return;
-    }
-    const QString shown = QLabel::text();
-    popUpEditMenu(*this, event->globalPos(),
-                  {{u"&Copier"_s, QKeySequence::Copy, hasSelectedText(),
-                    [this] { Clipboard::setText(selectedText()); }},
-                   {},
-                   {u"&Tout sélectionner"_s, QKeySequence::SelectAll, selectedText() != shown,
-                    [this, shown] { setSelection(0, static_cast<int>(shown.size())); }}});
-}
-
-void StaticText::leaveEvent(QEvent* event)
-{
-    QLabel::leaveEvent(event);
-    Q_EMIT MouseExit();
-}
-
 BevelButton::BevelButton(QWidget* parent) : RectControl(parent)
 {
     setFocusPolicy(Qt::TabFocus);
@@ -324,7 +246,16 @@ void PushButton::focusOutEvent(QFocusEvent* event)
     pressedFromKeyboard_ = false;
 }
 
-PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent) {}
+PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
+{
+    connect(this, &QComboBox::currentTextChanged, this, &PopupMenu::announceRow);
+}
+
+void PopupMenu::announceRow(const QString& row)
+{
+    announceTextChange(*this, announcedRow_, row);
+    announcedRow_ = row;
+}
 
 // A list with no row chosen opens with none under the keyboard either, so that the
 // first Down lands on the first row. Qt's list would take its first row as the place
@@ -337,6 +268,11 @@ void PopupMenu::showPopup()
     QComboBox::showPopup();
 }
 
+void PopupMenu::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
 // Qt would choose the first row added to an empty list by itself.
 void PopupMenu::AddRow(const QString& text)
 {
@@ -344,6 +280,25 @@ void PopupMenu::AddRow(const QString& text)
     const int chosen = currentIndex();
     addItem(text);
     setCurrentIndex(chosen);
+}
+
+// Qt moves a slider by several line steps a notch, as many as the desktop scrolls lines.
+void Slider::wheelEvent(QWheelEvent* event)
+{
+    constexpr int notch = 120;
+    const QPoint delta = event->angleDelta();
+    // Qt counts a turn to the right as negative; it moves a slider up, as a turn away does.
+    int turn = delta.y() != 0 ? delta.y() : -delta.x();
+    if (event->inverted())
+        turn = -turn;
+    if ((turn < 0) != (wheelRest_ < 0))
+        wheelRest_ = 0;
+    wheelRest_ += turn;
+    const int notches = wheelRest_ / notch;
+    wheelRest_ -= notches * notch;
+    for (int i = 0; i < std::abs(notches); ++i)
+        triggerAction(notches > 0 ? SliderSingleStepAdd : SliderSingleStepSub);
+    event->accept();
 }
 
 } // namespace vorkan

@@ -65,6 +65,7 @@ protected:
     bool event(QEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -98,6 +99,10 @@ public:
     // and whenever the caption changes.
     void labels(QWidget& control, const QString& prefix);
 
+    // A figure and the label that names it read as one line: the text that stands higher
+    // moves down onto the other's baseline, the boxes staying where they are.
+    void shareBaseline(StaticText& other);
+
     MouseDownHandler MouseDown;
 
 Q_SIGNALS:
@@ -112,8 +117,12 @@ protected:
 
 private:
     void fitFont();
+    void placeText();
+    // Where the text's baseline lies in the window, in the layout's font.
+    int baselineInWindow() const;
 
     QString caption_;
+    int baselineDrop_ = 0;
     std::optional<QFont> layoutFont_;
     QPointer<QWidget> labelled_;
     QString labelPrefix_;
@@ -154,7 +163,8 @@ private:
 };
 
 // A pop-up list; ListIndex is -1 while no row is chosen, and shows blank. Its Change
-// is currentIndexChanged.
+// is currentIndexChanged. Closed, it lets the wheel pass: scrolling over a window must
+// not change a choice unseen.
 class PopupMenu : public RectControl<QComboBox> {
     Q_OBJECT
 
@@ -167,14 +177,30 @@ public:
     void setListIndex(int index) { setCurrentIndex(index); }
 
     void showPopup() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void announceRow(const QString& row);
+
+    QString announcedRow_;
 };
 
-// A horizontal slider; its ValueChanged is valueChanged.
+// A horizontal slider; its ValueChanged is valueChanged. A notch of the wheel moves it
+// by its line step, as one key press does.
 class Slider : public RectControl<QSlider> {
     Q_OBJECT
 
 public:
     explicit Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent) {}
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    // Turns smaller than a notch, kept until they add up to one.
+    int wheelRest_ = 0;
 };
 
 class GroupBox : public RectControl<QGroupBox> {

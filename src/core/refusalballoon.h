@@ -12,8 +12,8 @@ class TipWidget;
 
 // The balloon that says why a field refused a key. It stays long enough to be read
 // after fast typing, whatever is typed next; a further refusal starts its time again.
-// It sits next to the field, covering neither the field nor any control the user
-// works with, and goes with the field's focus.
+// It sits as near the field as it can on the screen, covering no label, button or
+// field of the window, and goes with the field's focus.
 class RefusalBalloon {
 public:
     explicit RefusalBalloon(QLineEdit& field) : field_(field) {}

@@ -3,6 +3,7 @@
 #include "accessibility.h"
 #include "app.h"
 #include "controlfactory.h"
+#include "controls.h"
 #include "menus.h"
 #include "platform.h"
 
@@ -232,8 +233,13 @@ void Window::createControls(std::span<const LayoutRow> rows, std::span<const Lab
             widget->setGeometry(row.geometry.translated(-parent->mapTo(client_, QPoint(0, 0))));
         controls_.insert(row.name.toString(), widget);
     }
-    for (const LabelledBy& pair : labels)
+    for (const LabelledBy& pair : labels) {
         applyLabel(control<QWidget>(pair.control), control<QWidget>(pair.label));
+        auto* figure = qobject_cast<StaticText*>(&control<QWidget>(pair.control));
+        if (auto* caption = qobject_cast<StaticText*>(&control<QWidget>(pair.label));
+            figure && caption)
+            figure->shareBaseline(*caption);
+    }
     for (const LayoutRow& row : rows)
         if (!row.props.accessibleName.isEmpty())
             control<QWidget>(row.name).setAccessibleName(row.props.accessibleName.toString());

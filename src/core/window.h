@@ -75,7 +75,8 @@ protected:
     virtual void Event_Close() {}
 
     // Makes the controls of the layout table, names each after its label for assistive
-    // tools, and finds the controls the window's code uses.
+    // tools, sets each figure on its label's baseline, and finds the controls the
+    // window's code uses.
     void createControls(std::span<const LayoutRow> rows, std::span<const LabelledBy> labels = {});
     // The window's menus; a window that sets none shows the application's.
     void setMenuBar(const MenuBar& bar);

@@ -82,6 +82,17 @@ QList<ChartLine> layoutChart(const ChartState& state, QSizeF areaPx, double pixe
     return lines;
 }
 
+QString moreLinesBelow(const ChartState& state, const QList<ChartLine>& lines)
+{
+    if (!state.wholeChart || lines.isEmpty() || lines.last().tenths >= largestTenths)
+        return {};
+    const int next = lines.last().tenths + 1;
+    const QString range = next == largestTenths
+                              ? acuityLabel(next)
+                              : acuityLabel(next) + u" à "_s + acuityLabel(largestTenths);
+    return u"▼ "_s + range + u" plus bas"_s;
+}
+
 int lettersThatFit(double letterHeightPx, double widthPx)
 {
     if (!(letterHeightPx > 0))

@@ -37,6 +37,10 @@ struct ChartLine {
 QList<ChartLine> layoutChart(const ChartState& state, QSizeF areaPx, double pixelsPerMm,
                              double labelWidthPx);
 
+// What tells, at the chart's foot, that smaller lines follow below those shown; empty
+// when the last line is shown, or one line alone.
+QString moreLinesBelow(const ChartState& state, const QList<ChartLine>& lines);
+
 // Letters of that height that fit in a line of that width, one letter's width apart:
 // five at most, and at least one even when it is wider than the screen.
 int lettersThatFit(double letterHeightPx, double widthPx);

@@ -256,8 +256,16 @@ void ChartWindow::paintChart(QPainter& painter, QSizeF areaPx) const
     const double margin = metrics.height();
     const double labelWidth = metrics.horizontalAdvance(u"▶ 10/10"_s);
     painter.setFont(font);
-    for (const ChartLine& line :
-         layoutChart(state_, areaPx, pixelsPerMm_, labelWidth + 2.0 * margin)) {
+    painter.setPen(Qt::black);
+    QList<ChartLine> lines = layoutChart(state_, areaPx, pixelsPerMm_, labelWidth + 2.0 * margin);
+    // The smaller lines that do not fit are announced at the foot, in room kept for it.
+    if (!moreLinesBelow(state_, lines).isEmpty()) {
+        const QSizeF above(areaPx.width(), std::max(0.0, areaPx.height() - 2.0 * margin));
+        lines = layoutChart(state_, above, pixelsPerMm_, labelWidth + 2.0 * margin);
+        painter.drawText(QRectF(0, above.height(), above.width(), 2.0 * margin), Qt::AlignCenter,
+                         moreLinesBelow(state_, lines));
+    }
+    for (const ChartLine& line : lines) {
         const QString letters =
             lineLetters(line.tenths, seed_, static_cast<int>(line.cells.size()));
         painter.setPen(Qt::NoPen);

@@ -43,8 +43,11 @@ ChronoWindow::ChronoWindow(const MonotonicClock& clock, std::function<void()> be
     buildControls();
     ticker_.setInterval(refreshMs);
     connect(&ticker_, &QTimer::timeout, this, &ChronoWindow::refresh);
-    auto* quit = new QShortcut(QKeySequence::Quit, this);
-    connect(quit, &QShortcut::activated, this, &QWidget::close);
+    // Ctrl+Q as everywhere, and Ctrl+W, which closes every calculator.
+    for (const QKeySequence::StandardKey key : {QKeySequence::Quit, QKeySequence::Close}) {
+        auto* shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, this, &QWidget::close);
+    }
     refresh();
 }
 
@@ -113,6 +116,9 @@ QPushButton* ChronoWindow::addButton(const QString& text, const QString& accessi
                                      const QKeySequence& key, void (ChronoWindow::*action)())
 {
     auto* button = new QPushButton(text);
+    // Room on either side of the text, which the style alone leaves touching the edges.
+    button->setMinimumWidth(button->sizeHint().width() +
+                            2 * button->fontMetrics().averageCharWidth());
     button->setAccessibleName(accessibleName);
     // Return clicks the button that has the focus.
     button->setAutoDefault(true);

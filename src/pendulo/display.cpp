@@ -40,8 +40,9 @@ QString rateText(std::optional<double> perMinute, int taps)
     const QString label = u"Battements par minute : "_s;
     if (taps <= 0)
         return label + u"tapez B à chaque battement"_s;
-    const QString count =
-        taps == 1 ? u"(1 battement)"_s : u"("_s + QString::number(taps) + u" battements)"_s;
+    // The count is one piece: a narrow window breaks the line before it, never inside.
+    const QString count = taps == 1 ? u"(1\u00a0battement)"_s
+                                    : u"("_s + QString::number(taps) + u"\u00a0battements)"_s;
     if (!perMinute)
         return label + u"… "_s + count;
     return label + QString::number(std::lround(*perMinute)) + u' ' + count;

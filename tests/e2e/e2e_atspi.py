@@ -23,33 +23,56 @@ def poll(what, find, timeout=20):
     raise AssertionError(f"{what} never appeared on the accessibility bus")
 
 
+# After 180 cm typed in IMC at 70 kg, each figure by its label (and group), as shown; after
+# Down and Tab through Norton's lists, each list by its criterion, with its first row.
+FIGURES = {
+    "IMC": {"Dénutrition": "<53", "Maigreur": "53-60", "Corpulence normale": "60-81",
+            "Surpoids": "81-97", "Obéité modérée": "97-113", "Obésité sévère": "113-130",
+            "Obésité morbide": ">130", "Poids idéal (kg), Homme": "73.7",
+            "Poids idéal (kg), Femme": "69.2", "Poids maigre (kg), Homme": "57.6",
+            "Poids maigre (kg), Femme": "52.5"},
+    "Surface corporelle": {f"Surface (m²), {name}": shown for name, shown in
+                           [("Dubois", "1.89"), ("Gehan & Gorge", "1.88"), ("Mosteller", "1.87")]},
+    "Poids idéal": {f"Poids idéal (kg), {name}": shown for name, shown in
+                    [("Broca", "80"), ("Lorentz", "72.5"), ("Perrault", "81.8"),
+                     ("Huet et Godelsk", "74"), ("Lorentz II", "72.5")]},
+    "Echelle de Norton": {"Condition physique": "Bonne", "Etat mental": "Bon alerte",
+                          "Activité": "Ambulant", "Mobilité": "Totale", "Incontinence": "Aucune"},
+}
+
+
 def reads(session, pyatspi, binary, lang, index, after):
     session.start(binary, env=dict(session.env, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                                    QT_ACCESSIBILITY="1", LANG=lang, LC_ALL=lang))
 
-    def named(root, name):
-        return pyatspi.findDescendant(root, lambda node: node is not None and node.name == name)
+    named = lambda root, name: pyatspi.findDescendant(root, lambda n: n and n.name == name)  # noqa
+    frame = lambda title: next(w for app in pyatspi.Registry.getDesktop(0) if app  # noqa: E731
+                               for w in app if w and w.name == title)
 
-    def frame(title):
-        return next(w for app in pyatspi.Registry.getDesktop(0) if app for w in app
-                    if w and w.name == title)
+    def text(title, name):  # of what is so named and shows a text: a field, figure or list
+        shows = lambda node: node and node.name == name and "Text" in node.get_interfaces()  # noqa
+        return pyatspi.findDescendant(frame(title), shows).queryText().getText(0, -1)
 
-    poll("the IMC button", lambda: named(frame("Vorkan MAC"), "IMC")).queryAction().doAction(0)
-    text = lambda name: named(frame("IMC"), name).queryText().getText(0, -1)  # noqa: E731
-    assert poll("the index", lambda: text("IMC (kg/m²)")) == index, f"{lang}: {index} expected"
+    def open_window(button, title):
+        poll(button, lambda: named(frame("Vorkan MAC"), button)).queryAction().doAction(0)
+        poll(title, lambda: frame(title))
+
+    open_window("IMC", "IMC")
+    assert poll("the index", lambda: text("IMC", "IMC (kg/m²)")) == index, f"{lang}: {index}"
     session.keys(session.wait_for_window("IMC"), "ctrl+a", "1", "8", "0")
-    poll(f"{lang}: the index {after}", lambda: text("IMC (kg/m²)") == after, timeout=10)
-    assert text("Taille (cm)") == "180", f"the height reads {text('Taille (cm)')!r}"
-    # A result in a group is named by the group and its own label; a label's ampersand
-    # is one; a control is named by its label as it reads now (the height the IMC left).
-    assert named(frame("IMC"), "Poids idéal (kg), Homme"), "no result named by its group"
-    for button, title, name in [("Surface corporelle", "Surface corporelle",
-                                 "Surface (m²), Gehan & Gorge"),
-                                ("Poids idéal", "Poids idéal", "Taille (cm) : 180"),
-                                ("Clé insee", "Cle insee", "Copier")]:
-        named(frame("Vorkan MAC"), button).queryAction().doAction(0)
-        found = poll(f"{title}: {name}", lambda: named(frame(title), name))
+    poll(f"{lang}: the index {after}", lambda: text("IMC", "IMC (kg/m²)") == after, timeout=10)
+    for title, figures in FIGURES.items():  # each window opens from the button of its title
+        open_window(title, title)
+        if title == "Echelle de Norton":
+            session.keys(session.wait_for_window(title), *["Down", "Tab"] * len(figures))
+        for name, shown in figures.items():
+            shown = shown.replace(".", index[2])
+            poll(f"{title}: {name} {shown}", lambda: text(title, name) == shown, timeout=10)
+    # A control is named by its label as it reads now (the height the IMC left).
+    open_window("Clé insee", "Cle insee")
+    found = poll("Copier", lambda: named(frame("Cle insee"), "Copier"))
     assert found.description == "Copier dans le presse papier", found.description
+    assert named(frame("Poids idéal"), "Taille (cm) : 180"), "the height slider is unnamed"
 
 
 def main(binary):
