@@ -66,6 +66,11 @@ run_in_root() {
     # the project's own settings (VORKAN_*) go in.
     local inside=(env -i HOME=/root LANG=C.UTF-8 TERM=dumb DEBIAN_FRONTEND=noninteractive
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "CI=${CI:-}")
+    # npm, over https, trusts the authorities that this machine trusts, a site's own too.
+    if [[ -f /etc/ssl/certs/ca-certificates.crt ]]; then
+        cp /etc/ssl/certs/ca-certificates.crt "$root/etc/machine-ca-certificates.crt"
+        inside+=(NODE_EXTRA_CA_CERTS=/etc/machine-ca-certificates.crt)
+    fi
     local setting
     while read -r setting; do
         [[ $setting == VORKAN_ROOT_BIND || -z $setting ]] || inside+=("$setting=${!setting}")

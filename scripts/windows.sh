@@ -6,6 +6,9 @@
 # Windows once (see scripts/windows/qt.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
+# Built and tested with Debian 13's Qt tools, compilers and Wine (scripts/windows/root.sh).
+. /etc/os-release
+[[ $VERSION_CODENAME == trixie ]] || exec scripts/windows/root.sh scripts/windows.sh
 repo=$PWD
 build=$repo/build/windows
 
@@ -32,8 +35,11 @@ printf '  %s\n' "${shipped[@]}"
 (cd "$build" && "$repo/scripts/windows/deploy.sh" "$qt" . tst_*.exe >/dev/null)
 
 step "Installer"
-msi=$(scripts/windows/installer.sh "$build" "${programs[@]}" "${shipped[@]}")
+msi=$(scripts/windows/installer.sh "$build" "$qt" "${programs[@]}" "${shipped[@]}")
 echo "  $msi: $(du -k "$msi" | cut -f1) KiB"
+step "Bill of materials"
+/usr/bin/python3 scripts/windows/sbom-check.py "${msi%.msi}.cdx.json" \
+    "$build/packaging/windows/files"
 
 step "Under Wine"
 /usr/bin/python3 tests/wine/wine_checks.py "$build" "$msi"

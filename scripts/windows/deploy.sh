@@ -7,8 +7,9 @@ set -euo pipefail
 qt=$1 folder=$2
 shift 2
 
-# The platform plugin draws the windows; the style gives the controls Windows' look.
-plugins=(platforms/qwindows.dll styles/qwindowsvistastyle.dll)
+# The platform plugin draws the windows; the styles give the controls Windows' look:
+# windows11 on Windows 11, windowsvista on Windows 10, in one plugin.
+plugins=(platforms/qwindows.dll styles/qmodernwindowsstyle.dll)
 compiler=x86_64-w64-mingw32-g++-posix
 
 imports() {
