@@ -31,7 +31,7 @@ test | windows)
     ;;&
 windows)
     packages+=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine msitools wixl
-        icoutils locales osslsigncode openssl)
+        icoutils locales osslsigncode openssl python3-jsonschema npm)
     ;;
 esac
 

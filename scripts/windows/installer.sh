@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# installer.sh BUILD FILE...: makes the installer BUILD/vorkan-mac-<version>-x64.msi from
-# the programs and libraries FILE... (paths below BUILD/src) and prints its path. The
-# files go in stripped, their debug information to BUILD/debug, with the licences;
-# every program, library and the installer are signed (scripts/windows/sign.sh).
+# installer.sh BUILD QT FILE...: makes the installer BUILD/vorkan-mac-<version>-x64.msi
+# from the programs and libraries FILE... (paths below BUILD/src), taken from the Qt in
+# QT, and prints its path. The files go in stripped, their debug information to
+# BUILD/debug, with the licences and a bill of materials (CycloneDX), a copy of which
+# lies beside the installer; every program, library and the installer are signed
+# (scripts/windows/sign.sh).
 set -euo pipefail
 repo=$(cd "$(dirname "$0")/../.." && pwd)
-build=$1
-shift
+build=$1 qt=$2
+shift 2
 installer=$build/packaging/windows
 files=$installer/files
 debug=$build/debug
@@ -14,7 +16,7 @@ version=$(<"$installer/release-version")
 msi=$build/vorkan-mac-$version-x64.msi
 web=$(sed -n 's/^VORKAN_WEB_ADDRESS:STRING=//p' "$build/CMakeCache.txt")
 
-rm -rf "$files" "$debug" "$build/signing" "$build"/vorkan-mac-*-x64.msi
+rm -rf "$files" "$debug" "$build/signing" "$build"/vorkan-mac-*-x64.{msi,cdx.json}
 mkdir -p "$files/licences" "$debug"
 (cd "$build/src" && cp --parents "$@" "$files")
 
@@ -36,12 +38,17 @@ sed "s/\(qt6-base source package, version \)[^ ,]*,/\1$qt_source,/;
     "$repo/packaging/THIRD-PARTY-NOTICES.txt" >"$files/THIRD-PARTY-NOTICES.txt"
 cp /usr/share/common-licenses/LGPL-3 "$files/licences/LGPL-3.txt"
 cp /usr/share/common-licenses/GPL-3 "$files/licences/GPL-3.txt"
-cp /usr/share/doc/libqt6core6/copyright "$files/licences/qt6-base.copyright.txt"
+# Debian 13 names the library libqt6core6t64.
+cp /usr/share/doc/libqt6core6*/copyright "$files/licences/qt6-base.copyright.txt"
 cp /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright \
     "$files/licences/gcc-mingw-w64.copyright.txt"
 cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$files/licences/mingw-w64.copyright.txt"
 
 (cd "$files" && "$repo/scripts/windows/sign.sh" "$build/signing" "$web" "$@")
+# Made from the files as they are installed, signed: what IT's inventory will hash.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$repo" log -1 --format=%ct 2>/dev/null)} \
+    /usr/bin/python3 "$repo/scripts/windows/sbom.py" "$files" "$qt" "$version" \
+    "$files/sbom.cdx.json" >&2
 
 # wixl takes relative paths only: it runs beside the installer's description and icon.
 cd "$installer"
@@ -61,4 +68,5 @@ msiinfo export "$msi" Upgrade |
 grep -q $'\t513\t' Upgrade.idt
 msibuild "$msi" -i Upgrade.idt
 "$repo/scripts/windows/sign.sh" "$build/signing" "$web" "$msi"
+cp "$files/sbom.cdx.json" "${msi%.msi}.cdx.json"
 echo "$msi"
