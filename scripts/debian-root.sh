@@ -52,7 +52,10 @@ new_root() {
 run_in_root() {
     local root=$1
     shift
-    # The uncommitted changes too, so that a developer tests what the tree holds.
+    # The checkout's last commit (the build number counts commits), then its uncommitted
+    # changes, so that a developer tests what the tree holds.
+    git -C "$root/src" fetch -q "$repo" HEAD
+    git -C "$root/src" reset -q --hard FETCH_HEAD
     git ls-files -z --cached --others --exclude-standard |
         tar --null --files-from=- -c | tar -x -C "$root/src"
     cp /etc/resolv.conf "$root/etc/resolv.conf"

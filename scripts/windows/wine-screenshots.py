@@ -16,12 +16,10 @@ import time
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tests" / "wine"))
 from wine_checks import Wine, XSession  # noqa: E402
 
-MAIN_HEIGHT = 202  # the main window's client area, below its menu bar
+# The main window's client area, below its menu bar, centred on a 1280 x 800 desktop.
+MAIN_ORIGIN = ((1280 - 445) // 2, (800 - 202) // 2)
 BUTTONS = {"imc": (76, 50), "surf": (76, 136), "pideal": (76, 93), "norton": (223, 93),
            "cleinsee": (223, 50), "lumetra": (370, 50), "pendulo": (370, 93)}
-TITLES = {"imc": "IMC", "surf": "Surface corporelle", "pideal": "Poids idéal",
-          "norton": "Echelle de Norton", "cleinsee": "Cle insee",
-          "lumetra": "Échelle visuelle 3 m", "pendulo": "Chrono"}
 PERSONALIZE = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize"
 
 
@@ -41,14 +39,17 @@ def shoot(session, out):
 def pictures(wine, session, program, out, look):
     wine.start("explorer", "/desktop=shots,1280x800", str(program),
                "-platform", "windows:fontengine=freetype")
-    main = session.wait_for_window("Vorkan MAC", timeout=60)
+    time.sleep(8)
     shoot(session, out / f"{look}-main.png")
-    for name, at in BUTTONS.items():
-        session.xdotool("windowactivate", "--sync", str(main))
-        session.click(main, MAIN_HEIGHT, at)
-        window = session.wait_for_window(TITLES[name], timeout=60)
+    for name, (x, y) in BUTTONS.items():
+        # Inside Wine's desktop the windows are not the X server's: the pointer and
+        # keys go where a user's would, to the main window centred on the desktop.
+        session.xdotool("mousemove", "--sync", str(MAIN_ORIGIN[0] + x),
+                        str(MAIN_ORIGIN[1] + y), "click", "1")
+        time.sleep(4)
         shoot(session, out / f"{look}-{name}.png")
-        session.keys(window, "Escape" if name == "lumetra" else "ctrl+w")
+        session.xdotool("key", "Escape" if name == "lumetra" else "ctrl+w")
+        time.sleep(1)
     wine.stop()
 
 
