@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QGroupBox>
 
 #include <algorithm>
 
@@ -163,12 +164,12 @@ void announceTextChange(QWidget& control, const QString& before, const QString& 
 
 void applyLabel(QWidget& control, QWidget& label)
 {
-    if (auto* group = qobject_cast<GroupBox*>(&label)) {
+    if (auto* group = qobject_cast<QGroupBox*>(&label)) {
         control.setAccessibleName(group->title());
         return;
     }
     QString prefix;
-    if (auto* group = qobject_cast<GroupBox*>(control.parentWidget()))
+    if (auto* group = qobject_cast<QGroupBox*>(control.parentWidget()))
         prefix = group->title() + u", ";
     if (auto* caption = qobject_cast<StaticText*>(&label))
         caption->labels(control, prefix);

@@ -4,6 +4,8 @@
 #include "shapes.h"
 #include "updownarrows.h"
 
+#include <QGroupBox>
+
 namespace vorkan {
 
 namespace {
@@ -100,7 +102,7 @@ QWidget* makeWidget(const LayoutRow& row, QWidget* parent)
     case Kind::UpDownArrows:
         return new UpDownArrows(parent);
     case Kind::GroupBox: {
-        auto* box = new GroupBox(parent);
+        auto* box = new QGroupBox(parent);
         box->setTitle(row.text.toString());
         return box;
     }

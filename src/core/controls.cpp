@@ -78,7 +78,7 @@ bool typesText(const QKeyEvent& event)
 
 } // namespace
 
-TextField::TextField(QWidget* parent) : RectControl(parent) {}
+TextField::TextField(QWidget* parent) : QLineEdit(parent) {}
 
 // A grouped field has no length limit of its own: a pasted number would be cut short
 // before its separators go; the mask counts the digits instead.
@@ -94,7 +94,7 @@ bool TextField::event(QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && keyDown(static_cast<QKeyEvent&>(*event)))
         return true;
-    return RectControl::event(event);
+    return QLineEdit::event(event);
 }
 
 // Runs KeyDown, then holds back a key the mask refuses; true when the key is dealt with.
@@ -201,7 +201,7 @@ void TextField::wheelEvent(QWheelEvent* event)
     QLineEdit::wheelEvent(event);
 }
 
-BevelButton::BevelButton(QWidget* parent) : RectControl(parent)
+BevelButton::BevelButton(QWidget* parent) : QPushButton(parent)
 {
     setFocusPolicy(Qt::TabFocus);
     setAutoDefault(false);
@@ -215,7 +215,7 @@ void BevelButton::keyPressEvent(QKeyEvent* event)
         QPushButton::keyPressEvent(event);
 }
 
-PushButton::PushButton(QWidget* parent) : RectControl(parent)
+PushButton::PushButton(QWidget* parent) : QPushButton(parent)
 {
     setAutoDefault(false);
 }
@@ -246,7 +246,7 @@ void PushButton::focusOutEvent(QFocusEvent* event)
     pressedFromKeyboard_ = false;
 }
 
-PopupMenu::PopupMenu(QWidget* parent) : RectControl(parent)
+PopupMenu::PopupMenu(QWidget* parent) : QComboBox(parent)
 {
     connect(this, &QComboBox::currentTextChanged, this, &PopupMenu::announceRow);
 }

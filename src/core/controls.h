@@ -4,7 +4,6 @@
 #include "types.h"
 
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -24,21 +23,22 @@ using KeyDownHandler = std::function<bool(const QString& key)>;
 using MouseWheelHandler = std::function<bool(Int32 x, Int32 y, Int32 deltaX, Int32 deltaY)>;
 using MouseDownHandler = std::function<bool(Int32 x, Int32 y)>;
 
-// What every control of a window can do beyond its Qt base.
-template<class Base> class RectControl : public Base {
+// What every control of a window can do beyond its Qt base. A mixin rather than a
+// class between the control and Qt: each such class would bring a table of Qt's
+// functions that the loader binds at every start.
+template<class Control> class Refreshable {
 public:
-    using Base::Base;
     // Asks for the control to be painted. Qt paints all such controls together
     // before it takes the next input event, so the user sees the new value as soon
     // as with a synchronous paint, without a flush to the screen for each control.
-    void Refresh(bool /*now*/ = true) { this->update(); }
+    void Refresh(bool /*now*/ = true) { static_cast<Control*>(this)->update(); }
 };
 
 // A one-line field. KeyDown runs before the field sees the key, Tab included, so the
 // text is still the one from before the key, also for a key the field will refuse; a
 // modifier pressed alone is no key. A key or a paste that the mask refuses beeps and
 // says why in a balloon beside the field, which stays a few seconds whatever comes next.
-class TextField : public RectControl<QLineEdit> {
+class TextField : public QLineEdit, public Refreshable<TextField> {
     Q_OBJECT
 
 public:
@@ -81,7 +81,7 @@ private:
 // A label. Its caption is kept as stored, with "&&" for one ampersand; the screen
 // shows one ampersand and no mnemonic. Where the platform's font is wider than the
 // one the layout was drawn with, the text is drawn smaller until it fits its box.
-class StaticText : public RectControl<QLabel> {
+class StaticText : public QLabel, public Refreshable<StaticText> {
     Q_OBJECT
 
 public:
@@ -130,7 +130,7 @@ private:
 
 // A button that a click never gives the focus, so that typing goes on in the field
 // that had it; Tab reaches it, and Space or Return presses it. Its Action is clicked.
-class BevelButton : public RectControl<QPushButton> {
+class BevelButton : public QPushButton, public Refreshable<BevelButton> {
     Q_OBJECT
 
 public:
@@ -143,7 +143,7 @@ protected:
 // A button, whose Action is clicked. One pressed from the keyboard, away from the
 // pointer, lets the tip it showed go when the focus leaves it, since no MouseExit
 // will come.
-class PushButton : public RectControl<QPushButton> {
+class PushButton : public QPushButton, public Refreshable<PushButton> {
     Q_OBJECT
 
 public:
@@ -165,7 +165,7 @@ private:
 // A pop-up list; ListIndex is -1 while no row is chosen, and shows blank. Its Change
 // is currentIndexChanged. Closed, it lets the wheel pass: scrolling over a window must
 // not change a choice unseen.
-class PopupMenu : public RectControl<QComboBox> {
+class PopupMenu : public QComboBox, public Refreshable<PopupMenu> {
     Q_OBJECT
 
 public:
@@ -189,11 +189,11 @@ private:
 
 // A horizontal slider; its ValueChanged is valueChanged. A notch of the wheel moves it
 // by its line step, as one key press does.
-class Slider : public RectControl<QSlider> {
+class Slider : public QSlider, public Refreshable<Slider> {
     Q_OBJECT
 
 public:
-    explicit Slider(QWidget* parent) : RectControl(Qt::Horizontal, parent) {}
+    explicit Slider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
@@ -201,13 +201,6 @@ protected:
 private:
     // Turns smaller than a notch, kept until they add up to one.
     int wheelRest_ = 0;
-};
-
-class GroupBox : public RectControl<QGroupBox> {
-    Q_OBJECT
-
-public:
-    using RectControl::RectControl;
 };
 
 } // namespace vorkan

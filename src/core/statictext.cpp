@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace vorkan {
 
-StaticText::StaticText(QWidget* parent) : RectControl(parent)
+StaticText::StaticText(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
 }
