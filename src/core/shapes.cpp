@@ -10,11 +10,14 @@ namespace vorkan {
 namespace {
 
 // Text inside a filled shape stays readable whatever the desktop's colours: it takes
-// black on a light fill and white on a dark one.
+// black on a light fill and white on a dark one. A palette that already reads so is
+// left alone: setting one spreads to every child, a cost paid at each start.
 void contrastWithFill(QWidget& shape, const QColor& fill)
 {
     QPalette palette = shape.palette();
     const QColor text = fill.lightnessF() > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    if (palette.color(QPalette::WindowText) == text && palette.color(QPalette::Text) == text)
+        return;
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Text, text);
     shape.setPalette(palette);
