@@ -6,7 +6,8 @@ else the machine is doing, unlike a time.
 Usage: bench/instructions.py VORKAN_BINARY MINIMAL_BINARY PLAIN_BINARY [RUNS]
 The minimal program is the floor of any Qt Widgets program (one titled window); the
 plain one is the same main window as vorkan-mac, written directly against Qt.
-Each program runs RUNS times (3 by default) and the median is kept.
+Each program runs RUNS times (5 by default) and the median is kept: fontconfig reads its
+settings with a hash that differs at each run, which moves a count by up to 0.2 M.
 """
 
 import os
@@ -44,7 +45,7 @@ def count(binary):
     raise RuntimeError(f"no totals in the dump of {binary}")
 
 
-def main(vorkan, minimal, plain, runs=3):
+def main(vorkan, minimal, plain, runs=5):
     programs = {"vorkan-mac": vorkan, "minimal Qt": minimal, "plain Qt": plain}
     medians = {}
     print(f"instructions from exec to the first flush, median of {runs} (offscreen)")
